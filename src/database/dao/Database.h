@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Recordset.h"
+#include "Schema.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace dao {
+
+class Connection;
+
+/// Kind of a recordset. The engine knows one: a keyset whose rows are read live.
+enum class RecordsetType { Dynaset = 2 };
+
+/// An open database file. A default-constructed object stands for "no database": every use of it raises
+/// 91, every use after Close 3420. Copies share the one connection, which ends with the last of them.
+class Database {
+public:
+    Database() = default;
+
+    /// Closes the file. Recordsets that are still open become invalid (3420). Closing twice raises 3420.
+    void Close();
+
+    [[nodiscard]] bool isOpen() const;
+    [[nodiscard]] QString Name() const;    ///< full path of the file
+    [[nodiscard]] QString Version() const; ///< version of the file's layout; serves as a test for "is there a database"
+    [[nodiscard]] bool isReadOnly() const;
+
+    [[nodiscard]] QStringList TableNames() const;
+    /// A table's definition. Error 3265 where there is none of that name (case does not count).
+    [[nodiscard]] const TableDef& Table(const QString& name) const;
+
+    /// Creates the table with its fields, indexes and properties. 3010-like errors come as 3204's kin:
+    /// a second table of one name raises 3204.
+    void appendTable(const TableDef& table);
+    /// Adds a property to an existing table.
+    void appendProperty(const QString& table, const Property& property);
+    void appendRelation(const Relation& relation);
+    [[nodiscard]] QList<Relation> Relations() const;
+
+    /// Opens `SELECT [DISTINCT] * | list FROM t1, t2, ... [WHERE expression]`.
+    /// Errors: 3075 syntax, 3078 unknown table, 3061 unknown field, 3079 ambiguous field, 93 pattern.
+    [[nodiscard]] Recordset OpenRecordset(const QString& statement, RecordsetType type = RecordsetType::Dynaset) const;
+
+private:
+    friend class DBEngine;
+    friend class Workspace;
+    explicit Database(std::shared_ptr<Connection> connection);
+    [[nodiscard]] Connection& connection() const;
+
+    std::shared_ptr<Connection> m_connection;
+};
+
+} // namespace dao

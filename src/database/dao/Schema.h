@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Value.h"
+
+#include <QList>
+#include <QString>
+
+namespace dao {
+
+/// Type numbers as the file's catalogue holds them.
+enum class DataType : int {
+    Integer = 3, ///< 16-bit signed
+    Long = 4,    ///< 32-bit signed
+    Text = 10,   ///< at most `Size` UTF-16 units
+};
+
+inline constexpr int dbAutoIncrField = 16;       ///< field attribute: the engine numbers new rows
+inline constexpr int dbRelationDontEnforce = 2;  ///< relation attribute: recorded, not enforced
+
+struct Field {
+    QString Name;
+    DataType Type = DataType::Text;
+    int Size = 0;
+    int Attributes = 0;
+    Value DefaultValue;           ///< Null or an empty text: no default
+    bool AllowZeroLength = false; ///< whether a text field takes the empty string
+
+    [[nodiscard]] bool isAutoIncrement() const { return (Attributes & dbAutoIncrField) != 0; }
+};
+
+/// An index over one field. Of the flags only `Unique` has an effect; `Primary` is recorded.
+struct Index {
+    QString Name;
+    QString FieldName;
+    bool Primary = false;
+    bool Unique = false;
+};
+
+struct Property {
+    QString Name;
+    DataType Type = DataType::Text;
+    Value Value;
+};
+
+struct Relation {
+    QString Name;
+    QString Table;
+    QString ForeignTable;
+    QString FieldName;
+    QString ForeignName;
+    int Attributes = 0;
+};
+
+/// The definition of a table, before it is appended to a database and after it was read from one.
+struct TableDef {
+    QString Name;
+    QList<Field> Fields;
+    QList<Index> Indexes;
+    QList<Property> Properties;
+
+    /// Position of a field, by name without regard to case; -1 where there is none.
+    [[nodiscard]] int fieldIndex(QStringView name) const;
+};
+
+} // namespace dao
