@@ -1,0 +1,123 @@
+#pragma once
+
+#include "FormContext.h"
+#include "ListColumns.h"
+
+#include <QMainWindow>
+#include <QPixmap>
+
+#include <array>
+#include <functional>
+
+class QAction;
+class QMenu;
+class QPushButton;
+
+namespace lingomat {
+
+class FlexGrid;
+
+/// Look up the packed attributes ("a;b;") of an entry by its ID.
+struct EntryLookups {
+    std::function<QString(const QString& id)> GetAllBereiche;
+    std::function<QString(const QString& id)> GetAllGrammatikalisch;
+    std::function<QString(const QString& id)> GetAllFunktional;
+};
+
+/// The Vocab List: the entries of the selection as one grid, one entry a row.
+///
+/// The grid is the one copy of the entries: other forms read its cells through the column numbers (names
+/// like Liste::ColScore). An empty list has either no data row or one of height 0; count through
+/// countRows(). The window lives as long as the program, closing it hides it.
+class Liste final : public QMainWindow, public ListColumnNumbers {
+    Q_OBJECT
+
+public:
+    explicit Liste(FormContext& context, QWidget* parent = nullptr);
+    ~Liste() override;
+
+    // What waits to be written to the database.
+    qint16 AnzahlGeaendert = 0; ///< changed entries
+    qint16 AnzahlGeloescht = 0; ///< deleted entries
+    qint16 AnzahlNeu = 0;       ///< rows with "*"
+    qint16 MarkierteZeile = 0;  ///< row that carries the mark; 0: none
+
+    [[nodiscard]] FlexGrid& MSFlexGrid1() { return *m_grid; }
+    [[nodiscard]] const FlexGrid& MSFlexGrid1() const { return *m_grid; }
+    [[nodiscard]] int countRows() const; ///< entries in the grid, the placeholder not counted
+
+    /// Sets the grid up; to be called once, before the window is used. Reads the column options.
+    void Form_Load();
+    /// Runs by itself whenever the window becomes the active one.
+    void Form_Activate();
+
+    // Set-up and texts.
+    void SetHeaders();
+    void AdjustControls(); ///< places the controls round the grid
+    void SetUserInterfaceProperties();
+    void SetzeStatus();   ///< writes the title
+    void ConditionToUI(); ///< brings title and commands in line with the grid
+
+    // Columns.
+    void SaveColWidths(); ///< keeps the widths at which hidden columns come back
+    void HideColsAccordingToOptions();
+    [[nodiscard]] bool ColIsHidden(int column) const; ///< whether a column may not be resized
+    void SetColResize();                              ///< lets drag the border under the mouse, or not
+
+    // Value lists. Without an open database nothing happens.
+    void GetProperties();
+    void AddStdToComboBoxes();
+
+    // The mark of the current row.
+    void SetzeMarke();
+    void ResetMarke(); ///< takes the mark away; the current row is 0 then
+
+    // Rows.
+    void LoescheListe();       ///< empties the list down to the placeholder
+    void initialisiereListe(); ///< empties the list down to the header, before a selection is loaded
+    /// Writes one expression of the current record of RecordsetAuswahl, composed and in its four parts, into
+    /// the current row. Language 1, any other number is language 2. Error 94 for a missing part.
+    void SetzeAusdruckAusDBinGrid(int language);
+    /// Writes the current record of RecordsetAuswahl into `row`, an empty one that was just appended; with
+    /// `last` into the last row. A record with the ID of the row above is the same entry once more: the row
+    /// goes and the result is false. The row becomes the current one. Errors leave it half filled.
+    bool ZeileAusDatensatz(int row, bool last, const EntryLookups& lookups);
+
+    /// Number of a cell in reading order.
+    [[nodiscard]] qint16 Fgi(int row, int column) const;
+
+Q_SIGNALS:
+    void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildWidgets();
+    void buildMenus();
+    void connectEvents();
+    void Command1_Click(); ///< "Close"
+    void mnAnsicht_Click(ListColumn column);
+    void clearValueList(const QString& box);
+    void setFirstWidths();
+    void writeAttributes(int row, const QString& id, const EntryLookups& lookups);
+    void writeDate(int row, const QString& field, int displayColumn, int keyColumn);
+    void writeText(int row, const QString& field, int column, int limit);
+    void clearMark(int row);
+    [[nodiscard]] const QPixmap& markPicture();
+
+    static constexpr int FirstWidthColumn = ColSprache1;
+    static constexpr int KeptWidths = ColScore - ColSprache1 + 1;
+
+    FormContext& m_context;
+    FlexGrid* m_grid = nullptr;
+    QPushButton* m_command1 = nullptr;
+    QMenu* m_columnMenu = nullptr;
+    std::array<QAction*, ListColumnCount> m_columnEntries{};
+    std::array<qint16, KeptWidths> SpaltenBreiten{};
+    QPixmap m_mark;
+};
+
+} // namespace lingomat
