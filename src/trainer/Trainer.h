@@ -1,0 +1,122 @@
+#pragma once
+
+#include "FormContext.h"
+#include "IntegerArray.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+
+class QAction;
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QProgressBar;
+class QPushButton;
+
+namespace lingomat {
+
+class FlexGrid;
+class Liste;
+
+/// The Trainer: walks the rows of the list's grid, question by question.
+///
+/// It has no entries of its own. A session is the rows that the grid had at the last restart, addressed by
+/// number: whoever changes the rows restarts it (Command6_Click). The window lives as long as the program;
+/// closing it hides it and leaves the session as it stands. The options last for the run.
+class Trainer final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    Trainer(FormContext& context, Liste& liste, QWidget* parent = nullptr);
+    ~Trainer() override;
+
+    // Options. Exactly one of the orders and one of the languages is set.
+    bool Reihenfolge_sequentiell = true; ///< the list's order
+    bool Reihenfolge_shuffle = false;    ///< one shuffled permutation
+    bool Reihenfolge_random = false;     ///< every step draws a row
+    bool Lang1Zuerst = true;             ///< asked from language 1 to language 2
+    bool Lang2Zuerst = false;
+    bool Selbsttest = false; ///< the answer is judged; no moving by hand
+    bool Schleife = false;   ///< repeat until every entry was answered right; acts with Selbsttest only
+    bool Schreiben = false;  ///< the answer is typed
+    bool FehlerBestaetigen = false;
+    bool MainOnly = false;
+
+    // The session.
+    qint16 AnzahlEintraege = 0;  ///< its entries
+    qint16 Position = 0;         ///< place in the walk; 0: nothing was shown yet
+    qint16 ZeigeLoesung = 0;     ///< 1: the next rendering shows the solution, 0: it blanks it
+    qint16 AnzahlRichtig = 0;    ///< entries answered right
+    qint16 RundenPosition = 0;   ///< entries visited in the present round of the loop
+    IntegerArray Sequenz;        ///< shuffled order: position to row
+    IntegerArray SchleifeStatus; ///< per position: LoopEntryDone once answered right
+
+    /// Sets the form up and begins a session; to be called once, before the window is used.
+    void Form_Load();
+    /// Runs by itself whenever the window becomes the active one.
+    void Form_Activate();
+
+    // Commands. Each reports its own errors.
+    void Command6_Click(); ///< "Restart"
+    void Command3_Click(); ///< one step: to the solution, or to the next question
+    void Command2_Click(); ///< one entry forward
+    void Command1_Click(); ///< one entry back
+    void back_Click();     ///< to the first entry
+    void ToEnd_Click();    ///< to the last entry
+    void Command4_Click(); ///< "Close"
+
+    void initialisiereSchleife(); ///< opens every position of the loop
+    /// Moves Position on to an open entry of the loop. False: no entry is open.
+    bool SetIndexAccordingToSchleife();
+    /// Row of the list that position `index` of the shuffled order stands for. Error 9 where there is none.
+    [[nodiscard]] int returnSequenz(int index) const;
+    /// Row of the list at the present position; in random order, the row drawn last.
+    [[nodiscard]] int AktuelleZeile() const;
+    /// Goes to the entry in the session's recordset of all entries. False: there is no such entry.
+    bool PositioniereRecord(const QString& id);
+
+    /// Shows a row of the list, with the solution where ZeigeLoesung is 1; 0 empties the display.
+    void ZeigeVokabel(int row);
+    void RowPositionToUI(); ///< the commands that go back, by the present position
+    void OptionsToUI();     ///< brings commands, menus and captions in line with the options
+    void InitStatusBar();
+    void SetUserInterfaceProperties();
+
+Q_SIGNALS:
+    void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    // Layout.
+    void buildWidgets();
+    void buildMenus();
+    void buildStatusBar();
+    void connectEvents();
+    void buildVokabelnGrid();
+    void fitVokabelnGrid();
+
+    // Sequence.
+    void shuffle();
+    [[nodiscard]] qint16 randomRow();
+    void attempt(const std::function<void()>& step);
+    void revealSolution();
+    void askNext();
+    void move(int position);
+    void showWhere(bool isInRange);
+
+    // Options.
+    void chooseOrder(bool Trainer::*order);
+    void chooseLanguage(bool Trainer::*language);
+    void InvertVokabelnGrid();
+
+    FormContext& m_context;
+    Liste& m_liste;
+};
+
+} // namespace lingomat
