@@ -50,32 +50,37 @@ struct ListColumnRule {
 };
 
 /// All columns, in the order of their numbers.
-inline constexpr std::array<ListColumnRule, ListColumnTotal> listColumnTable{{
-    {0, ColumnWidth::Third},
-    {1, ColumnWidth::Zero},
-    {2, ColumnWidth::Double},
-    {3, ColumnWidth::Double},
-    {4, ColumnWidth::Default, ListColumn::Wortart, "mnAnsichtWortart"},
-    {5, ColumnWidth::Default, ListColumn::Grammatikalisch, "mnAnsichtGrammatikalisch"},
-    {6, ColumnWidth::Default, ListColumn::Funktional, "mnAnsichtFunktional"},
-    {7, ColumnWidth::Double, ListColumn::Bereich, "mnAnsichtBereich"},
-    {8, ColumnWidth::Double, ListColumn::Beispielsatz, "mnAnsichtBeispielsatz"},
-    {9, ColumnWidth::Double, ListColumn::Zusatzinfo, "mnAnsichtZusatzinfo"},
-    {10, ColumnWidth::Default, ListColumn::Quelle, "mnAnsichtQuelle"},
-    {11, ColumnWidth::Default, ListColumn::Eingabedatum, "mnAnsichtEingabedatum"},
-    {12, ColumnWidth::Default, ListColumn::Aenderungsdatum, "mnAnsichtAenderungsdatum"},
-    {13, ColumnWidth::Default, ListColumn::Score, "mnAnsichtScore"},
-    {14, ColumnWidth::Zero},
-    {15, ColumnWidth::Zero},
-    {16, ColumnWidth::Zero},
-    {17, ColumnWidth::Zero},
-    {18, ColumnWidth::Zero},
-    {19, ColumnWidth::Zero},
-    {20, ColumnWidth::Zero},
-    {21, ColumnWidth::Zero},
-    {22, ColumnWidth::Zero},
-    {23, ColumnWidth::Zero},
-}};
+inline constexpr auto listColumnTable = [] {
+    using Column = ListColumnNumbers;
+    return std::array<ListColumnRule, ListColumnTotal>{{
+        {Column::ColMarke, ColumnWidth::Third},
+        {Column::ColSchluessel, ColumnWidth::Zero},
+        {Column::ColSprache1, ColumnWidth::Double},
+        {Column::ColSprache2, ColumnWidth::Double},
+        {Column::ColWortart, ColumnWidth::Default, ListColumn::Wortart, "mnAnsichtWortart"},
+        {Column::ColGrammatikalisch, ColumnWidth::Default, ListColumn::Grammatikalisch,
+         "mnAnsichtGrammatikalisch"},
+        {Column::ColFunktional, ColumnWidth::Default, ListColumn::Funktional, "mnAnsichtFunktional"},
+        {Column::ColBereich, ColumnWidth::Double, ListColumn::Bereich, "mnAnsichtBereich"},
+        {Column::ColBeispielsatz, ColumnWidth::Double, ListColumn::Beispielsatz, "mnAnsichtBeispielsatz"},
+        {Column::ColZusatzinfo, ColumnWidth::Double, ListColumn::Zusatzinfo, "mnAnsichtZusatzinfo"},
+        {Column::ColQuelle, ColumnWidth::Default, ListColumn::Quelle, "mnAnsichtQuelle"},
+        {Column::ColEingabedatum, ColumnWidth::Default, ListColumn::Eingabedatum, "mnAnsichtEingabedatum"},
+        {Column::ColAenderungsdatum, ColumnWidth::Default, ListColumn::Aenderungsdatum,
+         "mnAnsichtAenderungsdatum"},
+        {Column::ColScore, ColumnWidth::Default, ListColumn::Score, "mnAnsichtScore"},
+        {Column::ColPrefix1, ColumnWidth::Zero},
+        {Column::ColHaupt1, ColumnWidth::Zero},
+        {Column::ColSuffix1, ColumnWidth::Zero},
+        {Column::ColKommentar1, ColumnWidth::Zero},
+        {Column::ColPrefix2, ColumnWidth::Zero},
+        {Column::ColHaupt2, ColumnWidth::Zero},
+        {Column::ColSuffix2, ColumnWidth::Zero},
+        {Column::ColKommentar2, ColumnWidth::Zero},
+        {Column::ColEingabeKey, ColumnWidth::Zero},
+        {Column::ColAenderungKey, ColumnWidth::Zero},
+    }};
+}();
 
 /// First width of a column in pixels.
 [[nodiscard]] int firstWidth(ColumnWidth width, int defaultWidth);

@@ -13,6 +13,10 @@ class QAction;
 class QMenu;
 class QPushButton;
 
+namespace dao {
+class Recordset;
+}
+
 namespace lingomat {
 
 class FlexGrid;
@@ -92,7 +96,6 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildWidgets();
@@ -100,15 +103,15 @@ private:
     void connectEvents();
     void Command1_Click(); ///< "Close"
     void mnAnsicht_Click(ListColumn column);
-    void clearValueList(const QString& box);
     void setFirstWidths();
-    void writeAttributes(int row, const QString& id, const EntryLookups& lookups);
-    void writeDate(int row, const QString& field, int displayColumn, int keyColumn);
-    void writeText(int row, const QString& field, int column, int limit);
+    void clearValueList(const QString& box);
+    void fillValueList(const QString& kind, dao::Recordset& table, const QString& field,
+                       const QString& criterion);
+    void writeText(int row, int column, const QString& field, int limit);
+    void writeDate(int row, int displayColumn, int keyColumn, const QString& field);
     void clearMark(int row);
     [[nodiscard]] const QPixmap& markPicture();
 
-    static constexpr int FirstWidthColumn = ColSprache1;
     static constexpr int KeptWidths = ColScore - ColSprache1 + 1;
 
     FormContext& m_context;

@@ -1,0 +1,97 @@
+#include "Liste.h"
+
+#include "ErrorTrap.h"
+#include "FlexGrid.h"
+#include "SharedState.h"
+
+#include <QEvent>
+#include <QPushButton>
+
+namespace lingomat {
+
+Liste::Liste(FormContext& context, QWidget* parent) : QMainWindow(parent), m_context(context) {
+    buildWidgets();
+    buildMenus();
+    connectEvents();
+}
+
+Liste::~Liste() = default;
+
+void Liste::connectEvents() {
+    connect(m_command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+    connect(m_grid, &FlexGrid::mouseMoved, this, &Liste::SetColResize);
+    // The mark goes where the user goes: a key enters another cell, a click may fall on the current one.
+    connect(m_grid, &FlexGrid::EnterCell, this, [this] {
+        if (m_grid->Row() != MarkierteZeile)
+            SetzeMarke();
+    });
+    connect(m_grid, &FlexGrid::pressed, this, [this] { SetzeMarke(); });
+    m_grid->installEventFilter(this);
+}
+
+void Liste::Form_Load() {
+    Q_EMIT loadProgress(65);
+
+    setFirstWidths();
+    m_grid->setColAlignment(ColMarke, 1);
+    SaveColWidths();
+    m_context.columns.load(m_context.settings);
+    HideColsAccordingToOptions();
+    Q_EMIT loadProgress(68);
+
+    m_grid->setRowHeight(1, 0);
+    m_grid->setRow(0);
+    for (int column = ColSchluessel; column < m_grid->Cols(); ++column)
+        m_grid->setColAlignment(column, 0);
+    Q_EMIT loadProgress(70);
+
+    GetProperties();
+    Q_EMIT loadProgress(75);
+    Q_EMIT loadProgress(77);
+
+    initialisiereListe();
+    Q_EMIT loadProgress(78);
+
+    SetUserInterfaceProperties();
+}
+
+void Liste::Form_Activate() {
+    ConditionToUI();
+}
+
+void Liste::ConditionToUI() {
+    SetzeStatus();
+}
+
+void Liste::SetzeStatus() {
+    const int rows = m_grid->Rows();
+    setWindowTitle(listTitle(rows, rows < 2 ? 0 : m_grid->RowHeight(1)));
+}
+
+int Liste::countRows() const {
+    const int rows = m_grid->Rows();
+    return lingomat::countRows(rows, rows < 2 ? 0 : m_grid->RowHeight(1));
+}
+
+qint16 Liste::Fgi(int row, int column) const {
+    return dao::toInteger16(qint64{column} + qint64{m_grid->Cols()} * row);
+}
+
+void Liste::Command1_Click() {
+    hide();
+}
+
+bool Liste::event(QEvent* event) {
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        Form_Activate();
+    return handled;
+}
+
+bool Liste::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_grid && event->type() == QEvent::FocusIn)
+        SetzeMarke();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace lingomat
