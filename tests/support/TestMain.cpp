@@ -1,0 +1,38 @@
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace {
+
+/// Points every place where a program keeps something of the user's into a folder that goes with the test.
+bool isolate(const QTemporaryDir& home) {
+    if (!home.isValid())
+        return false;
+    const auto put = [&home](const char* variable, const char* folder) {
+        const QString path = home.filePath(QString::fromLatin1(folder));
+        return QDir().mkpath(path) && qputenv(variable, QFile::encodeName(path));
+    };
+    return put("HOME", ".") && put("XDG_CONFIG_HOME", "config") && put("XDG_DATA_HOME", "data") &&
+           put("XDG_CACHE_HOME", "cache");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    if (!isolate(home)) {
+        std::fputs("no temporary folder for the test\n", stderr);
+        return 1;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}
