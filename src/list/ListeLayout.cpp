@@ -1,6 +1,5 @@
 #include "FlexGrid.h"
 #include "FormTexts.h"
-#include "Globals.h"
 #include "Liste.h"
 
 #include <QGuiApplication>
@@ -18,6 +17,7 @@ namespace {
 constexpr QSize StartSize(900, 560);
 
 constexpr FormText texts[] = {
+    {"MSFlexGrid1", u"Vokabelliste", u"Vocab List"},
     {"Command1", u"Schließen", u"Close",
      u"Schließt das Fenster, Änderungen können zu einem späteren Zeitpunkt übernommen werden.",
      u"Closes this window, changes can be saved later"},
@@ -96,7 +96,6 @@ void Liste::SetUserInterfaceProperties() {
         if (rule.option)
             m_columnEntries[static_cast<size_t>(*rule.option)]->setText(columnTitle(*rule.option));
     }
-    m_grid->setAccessibleName(uiText(u"Vokabelliste"_s, u"Vocab List"_s));
     SetzeStatus();
 }
 

@@ -4,8 +4,6 @@
 #include "SharedState.h"
 #include "ValueLists.h"
 
-#include <QSet>
-
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -70,14 +68,8 @@ void Liste::clearValueList(const QString& box) {
 
 void Liste::fillValueList(const QString& kind, dao::Recordset& table, const QString& field,
                           const QString& criterion) {
-    QSet<QString> seen; // tens of thousands of entries share a few sources and parts of speech
-    for (table.FindFirst(criterion); !table.NoMatch() && !table.EOF_(); table.FindNext(criterion)) {
-        const QString value = table.field(field).toText(QString());
-        if (seen.contains(value))
-            continue;
-        seen.insert(value);
-        m_context.values.AddToComboBoxes(value, kind);
-    }
+    for (table.FindFirst(criterion); !table.NoMatch() && !table.EOF_(); table.FindNext(criterion))
+        m_context.values.AddToComboBoxes(table.field(field).toText(QString()), kind);
 }
 
 } // namespace lingomat
