@@ -54,8 +54,6 @@ public:
     [[nodiscard]] QString GetAllFunktional(const QString& id) const;
 
 private:
-    [[nodiscard]] QString* partOf(const QString& kind);
-
     const dao::Database& m_database;
     bool SectionStart = false;
     QString BereichPart;
