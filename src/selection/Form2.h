@@ -2,6 +2,7 @@
 
 #include "CQuery.h"
 #include "FormContext.h"
+#include "Liste.h"
 #include "clsCursor.h"
 #include "clsDateEinsteller.h"
 
@@ -21,7 +22,6 @@ namespace lingomat {
 
 class DateFilter;
 class ListPairFrame;
-class Liste;
 class ScoreFilter;
 class Trainer;
 struct ListPair;
@@ -125,6 +125,7 @@ private:
     void selectTab(int number);
     void selectNextTab();
     void filterChanged() { AuswahlGeaendert = true; }
+    void gateChanged(const QString& language);
 
     // The run.
     [[nodiscard]] SelectionFilters filters() const;
@@ -139,8 +140,9 @@ private:
     void reportNoHits();
     void showCount(int count);
 
-    [[nodiscard]] ListPair* currentPair() const;
-    [[nodiscard]] QStringList master(const ListPair& pair);
+    [[nodiscard]] const ListPair* currentPair() const;
+    [[nodiscard]] QStringList master(const ListPair& pair) const;
+    void refill(const ListPair& pair, QListWidget& target);
     QString joinedAttributes(const QString& id, dao::Recordset& links, const QString& keyField,
                              dao::Recordset& attributes);
 
@@ -151,6 +153,7 @@ private:
     clsDateEinsteller m_changeDates;
     clsCursor m_cursor;
     CQuery m_query;
+    EntryLookups m_lookups;
     bool StandardTabs = false;
 
     QTabBar* m_tabStrip = nullptr;
