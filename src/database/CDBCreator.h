@@ -38,6 +38,8 @@ public:
     void MakeRelation(const QString& kind, dao::Database& database);
 
 private:
+    void createAll(LanguageFields& languages);
+
     Notifier m_notifier;
 };
 

@@ -3,9 +3,22 @@
 #include "DBEngine.h"
 #include "LanguageFields.h"
 
+#include <array>
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace lingomat {
+
+using LanguageNames = std::pair<QString, QString>;
+
+/// The names that property `Languages` holds ("Lang1=...@Lang2=..."), trimmed. An empty text is the oldest
+/// form of file: Spanisch and Deutsch. Nothing for a text that no language database has.
+[[nodiscard]] std::optional<LanguageNames> languageNames(const QString& property);
+
+/// Names and field names: each prefix is followed by "_Prefix", "_Main", "_Suffix" and "_Kommentar".
+[[nodiscard]] LanguageFields languageFields(const LanguageNames& names, const QString& prefix1,
+                                            const QString& prefix2);
 
 /// The open database: its file, its eleven recordsets, its languages. One object serves every file in turn.
 ///
@@ -16,7 +29,10 @@ public:
     /// Stores the description of an error and shows it to the user.
     using ErrorReporter = std::function<void(const QString& description)>;
 
-    explicit CDBHandler(ErrorReporter reportError);
+    /// Message of a synonym whose row is gone, in the language of the interface.
+    using MessageText = std::function<QString()>;
+
+    explicit CDBHandler(ErrorReporter reportError, MessageText synonymNotFound = {});
 
     dao::Database Database; ///< set by whoever opens or creates the file
     dao::Recordset RecordsetAuswahl;   ///< the selection; the list, the Trainer and the entry count read it
@@ -66,7 +82,18 @@ public:
     bool DeleteSynonym(qint16 key);
 
 private:
+    struct TableRecordset {
+        QString table;
+        dao::Recordset* recordset;
+    };
+    [[nodiscard]] std::array<TableRecordset, 11> recordsets();
+    /// Runs a step; false after an error, which has been reported.
+    bool reported(const std::function<void()>& step);
+    /// Makes the synonym the current one of its recordset; false, and a message, where there is none.
+    bool findSynonym(qint16 key);
+
     ErrorReporter m_reportError;
+    MessageText m_synonymNotFound;
 };
 
 } // namespace lingomat

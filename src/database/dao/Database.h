@@ -33,8 +33,7 @@ public:
     /// A table's definition. Error 3265 where there is none of that name (case does not count).
     [[nodiscard]] const TableDef& Table(const QString& name) const;
 
-    /// Creates the table with its fields, indexes and properties. 3010-like errors come as 3204's kin:
-    /// a second table of one name raises 3204.
+    /// Creates the table with its fields, indexes and properties. A second table of one name raises 3010.
     void appendTable(const TableDef& table);
     /// Adds a property to an existing table.
     void appendProperty(const QString& table, const Property& property);
@@ -48,9 +47,24 @@ public:
 private:
     friend class DBEngine;
     friend class Workspace;
+    friend class SteadyReading;
     explicit Database(std::shared_ptr<Connection> connection);
     [[nodiscard]] Connection& connection() const;
 
+    std::shared_ptr<Connection> m_connection;
+};
+
+/// While it lives, all reading sees one state of the file and takes one lock in all: for long runs of many
+/// small look-ups. Other programs cannot write meanwhile, so it must not outlive a run. A change through the
+/// same database ends it early.
+class SteadyReading {
+public:
+    explicit SteadyReading(const Database& database);
+    ~SteadyReading();
+    SteadyReading(const SteadyReading&) = delete;
+    SteadyReading& operator=(const SteadyReading&) = delete;
+
+private:
     std::shared_ptr<Connection> m_connection;
 };
 

@@ -78,8 +78,12 @@ private:
     friend class Database;
     explicit Recordset(std::unique_ptr<RecordsetPrivate> d);
     [[nodiscard]] RecordsetPrivate& d() const;
+    void find(const QString& criterion, std::size_t first, std::size_t last, bool forward);
+    [[nodiscard]] int checkedColumn(int position) const;
+    [[nodiscard]] int column(const QString& name) const;
 
     std::unique_ptr<RecordsetPrivate> m_d;
+    bool m_closed = false;
 };
 
 } // namespace dao

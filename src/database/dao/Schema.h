@@ -39,7 +39,7 @@ struct Index {
 struct Property {
     QString Name;
     DataType Type = DataType::Text;
-    Value Value;
+    dao::Value Value;
 };
 
 struct Relation {

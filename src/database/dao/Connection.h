@@ -1,0 +1,104 @@
+#pragma once
+
+// Private to the engine.
+
+#include "QueryPlan.h"
+#include "Schema.h"
+#include "Sqlite.h"
+
+#include <QString>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+namespace dao {
+
+/// Marks a file as one of this program's ("LMT3"), and the layout of its tables.
+inline constexpr qint64 ApplicationId = 0x4C4D5433;
+inline constexpr qint64 LayoutVersion = 1;
+
+[[nodiscard]] QString unrecognizedFormat(const QString& path);
+
+/// A table of the open file.
+struct Table {
+    TableDef definition;
+    QByteArray sqlName;
+    QByteArray keyColumn; ///< the row key: the autoincrement field, or a column of the engine's own
+    bool keyIsField = false;
+    quint64 changes = 0; ///< grows with every row written through this connection
+};
+
+/// An open file: its SQLite connection, its catalogue, the statements and plans compiled for it.
+class Connection {
+public:
+    enum class Mode { ReadWrite, Create };
+    Connection(const QString& path, Mode mode);
+    Q_DISABLE_COPY_MOVE(Connection)
+    ~Connection() = default;
+
+    /// Error 3420 when the file was closed.
+    void requireOpen() const;
+    [[nodiscard]] bool isOpen() const { return m_handle != nullptr; }
+    void close();
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+    [[nodiscard]] bool isReadOnly() const;
+
+    /// A prepared statement, kept for the next time.
+    [[nodiscard]] Statement& statement(const QByteArray& sql);
+    void execute(const QByteArray& sql);
+    [[nodiscard]] int changedRows() const { return sqlite3_changes(m_handle.get()); }
+    [[nodiscard]] qint64 lastKey() const { return sqlite3_last_insert_rowid(m_handle.get()); }
+
+    /// Begins and ends a stretch of reading under one lock. Stretches nest.
+    void beginReading();
+    void endReading() noexcept;
+    /// Called before every change: ends a stretch of reading, so that the change is durable by itself.
+    void prepareToWrite();
+
+    [[nodiscard]] Table* findTable(const QString& name);
+    [[nodiscard]] QStringList tableNames() const;
+    void addTable(const TableDef& definition);
+    void addProperty(Table& table, const Property& property);
+    void addRelation(const Relation& relation);
+    [[nodiscard]] const QList<Relation>& relations() const { return m_relations; }
+    void recordLocale(const QString& locale);
+
+    /// The plan for a statement of this shape, compiled at its first use.
+    [[nodiscard]] std::shared_ptr<const SelectPlan> selectPlan(const QString& statement,
+                                                               const criteria::LexedText& text);
+
+private:
+    void open(Mode mode);
+    void configure();
+    void createCatalogue();
+    void checkFormat();
+    void checkIntegrity();
+    void readCatalogue();
+
+    QString m_path;
+    SqliteHandle m_handle;
+    std::map<QByteArray, Statement, std::less<>> m_statements;
+    std::map<QString, std::unique_ptr<Table>> m_tables; ///< by lower-case name
+    QStringList m_tableNames;
+    QList<Relation> m_relations;
+    int m_readers = 0;
+    std::unordered_map<std::u16string, std::shared_ptr<const SelectPlan>> m_plans; ///< by shape
+};
+
+/// Runs a change of several statements as one: all of it or nothing.
+class Transaction {
+public:
+    explicit Transaction(Connection& connection);
+    ~Transaction();
+    Q_DISABLE_COPY_MOVE(Transaction)
+    void commit();
+
+private:
+    Connection& m_connection;
+    bool m_done = false;
+};
+
+} // namespace dao

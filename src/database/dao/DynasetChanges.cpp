@@ -1,0 +1,207 @@
+// Adding, editing and deleting rows of a dynaset.
+
+#include "Dynaset.h"
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace dao {
+
+namespace {
+
+template <typename Number>
+void requireRange(qint64 number) {
+    if (number < std::numeric_limits<Number>::min() || number > std::numeric_limits<Number>::max())
+        throw Error(ErrorNumber::Overflow, u"Overflow"_s);
+}
+
+qint64 wholeNumber(const Value& value) {
+    try {
+        return value.toInteger();
+    } catch (const Error&) {
+        throw Error(ErrorNumber::DataConversion, u"Data type conversion error."_s);
+    }
+}
+
+/// The value as the field holds it; errors 6, 3163, 3315, 3421.
+Value fitted(const QString& table, const Field& field, const Value& value) {
+    if (value.isNull())
+        return value;
+    if (field.Type != DataType::Text) {
+        const qint64 number = wholeNumber(value);
+        if (field.Type == DataType::Integer)
+            requireRange<qint16>(number);
+        else
+            requireRange<qint32>(number);
+        return number;
+    }
+    const QString text = value.toText();
+    if (text.size() > field.Size)
+        throw Error(ErrorNumber::TextTooLong,
+                    u"The field '%1.%2' is too small to accept the amount of data you attempted to add."_s.arg(
+                        table, field.Name));
+    if (text.isEmpty() && !field.AllowZeroLength)
+        throw Error(ErrorNumber::EmptyTextNotAllowed,
+                    u"Field '%1.%2' cannot be a zero-length string."_s.arg(table, field.Name));
+    return text;
+}
+
+Value defaultValue(const QString& table, const Field& field) {
+    const Value& value = field.DefaultValue;
+    if (value.isNull() || value.toText().isEmpty())
+        return {};
+    return fitted(table, field, value);
+}
+
+} // namespace
+
+const Field& Dynaset::field(int column) const {
+    return table().definition.Fields[plan().fields[static_cast<std::size_t>(column)]];
+}
+
+void Dynaset::addNew() {
+    const std::size_t columns = plan().columns.size();
+    m_values.assign(columns, {});
+    m_set.assign(columns, false);
+    for (std::size_t i = 0; i < columns; ++i) {
+        const Field& f = field(static_cast<int>(i));
+        m_values[i] = defaultValue(table().definition.Name, f);
+        m_set[i] = !m_values[i].isNull();
+    }
+    m_work = Work::Adding;
+}
+
+void Dynaset::edit() {
+    m_work = Work::None;
+    load();
+    const std::size_t columns = plan().columns.size();
+    m_values.clear();
+    for (std::size_t i = 0; i < columns; ++i)
+        m_values.push_back(m_loaded.set->value(m_loaded.index, static_cast<int>(i)));
+    m_set.assign(columns, false);
+    m_work = Work::Editing;
+}
+
+void Dynaset::setValue(int column, const Value& value) {
+    if (m_work == Work::None)
+        throw Error(ErrorNumber::NoAddNewOrEdit, u"Update or CancelUpdate without AddNew or Edit."_s);
+    const Field& f = field(column);
+    if (f.isAutoIncrement() && m_work == Work::Editing)
+        throw Error(ErrorNumber::FieldNotUpdatable, u"Field '%1' cannot be updated."_s.arg(f.Name));
+    const auto index = static_cast<std::size_t>(column);
+    m_values[index] = fitted(table().definition.Name, f, value);
+    m_set[index] = true;
+}
+
+void Dynaset::update() {
+    if (m_work == Work::None)
+        throw Error(ErrorNumber::NoAddNewOrEdit, u"Update or CancelUpdate without AddNew or Edit."_s);
+    if (m_work == Work::Adding)
+        insertRow();
+    else
+        updateRow();
+    m_work = Work::None;
+}
+
+void Dynaset::insertRow() {
+    QByteArray names;
+    QByteArray parameters;
+    std::vector<Value> values;
+    for (std::size_t i = 0; i < m_values.size(); ++i) {
+        if (!m_set[i])
+            continue;
+        const QByteArray separator = names.isEmpty() ? "" : ", ";
+        names += separator + quotedName(plan().columns[i].field);
+        values.push_back(m_values[i]);
+        parameters += separator + '?' + QByteArray::number(static_cast<qulonglong>(values.size()));
+    }
+    const QByteArray sql = "INSERT INTO " + table().sqlName +
+                           (names.isEmpty() ? QByteArray(" DEFAULT VALUES")
+                                            : '(' + names + ") VALUES(" + parameters + ')');
+    connection().prepareToWrite();
+    {
+        const StatementRun run(connection().statement(sql));
+        int parameter = 0;
+        for (const Value& value : values)
+            run->bind(++parameter, value);
+        run->step();
+    }
+    const qint64 key = connection().lastKey();
+    rowWritten(key);
+    const auto slot = std::lower_bound(m_keys.begin(), m_keys.end(), key);
+    const auto index = static_cast<std::size_t>(slot - m_keys.begin());
+    m_keys.insert(slot, key);
+    // The current row stays what it was, also where the new one got in before it.
+    if ((place == Place::Row && index <= position) || (place == Place::Hole && index < position))
+        ++position;
+}
+
+void Dynaset::updateRow() {
+    requireRow();
+    const qint64 key = m_keys[position];
+    QByteArray assignments;
+    std::vector<Value> values;
+    for (std::size_t i = 0; i < m_values.size(); ++i) {
+        if (!m_set[i])
+            continue;
+        values.push_back(m_values[i]);
+        assignments += (assignments.isEmpty() ? "" : ", ") + quotedName(plan().columns[i].field) + " = ?" +
+                       QByteArray::number(static_cast<qulonglong>(values.size() + 1));
+    }
+    if (values.empty()) {
+        m_lastModified = key;
+        return;
+    }
+    connection().prepareToWrite();
+    {
+        const StatementRun run(connection().statement("UPDATE " + table().sqlName + " SET " + assignments + " WHERE " +
+                                                      table().keyColumn + " = ?1"));
+        run->bind(1, key);
+        int parameter = 1;
+        for (const Value& value : values)
+            run->bind(++parameter, value);
+        run->step();
+    }
+    if (connection().changedRows() == 0)
+        throw Error(ErrorNumber::RecordDeleted, u"Record is deleted."_s);
+    rowWritten(key);
+}
+
+void Dynaset::rowWritten(qint64 key) {
+    ++table().changes;
+    m_lastModified = key;
+}
+
+void Dynaset::cancelUpdate() {
+    if (m_work == Work::None)
+        throw Error(ErrorNumber::NoAddNewOrEdit, u"Update or CancelUpdate without AddNew or Edit."_s);
+    m_work = Work::None;
+}
+
+void Dynaset::deleteRow() {
+    requireRow();
+    m_work = Work::None;
+    const qint64 key = m_keys[position];
+    connection().prepareToWrite();
+    {
+        const StatementRun run(
+            connection().statement("DELETE FROM " + table().sqlName + " WHERE " + table().keyColumn + " = ?1"));
+        run->bind(1, key);
+        run->step();
+    }
+    if (connection().changedRows() == 0)
+        throw Error(ErrorNumber::RecordDeleted, u"Record is deleted."_s);
+    ++table().changes;
+    m_keys.erase(m_keys.begin() + static_cast<std::ptrdiff_t>(position));
+    place = Place::Hole;
+}
+
+qint64 Dynaset::lastModified() const {
+    if (!m_lastModified)
+        throw Error(ErrorNumber::NoCurrentRecord, u"No current record."_s);
+    return *m_lastModified;
+}
+
+} // namespace dao

@@ -1,0 +1,12 @@
+#include "Schema.h"
+
+namespace dao {
+
+int TableDef::fieldIndex(QStringView name) const {
+    for (int i = 0; i < Fields.size(); ++i)
+        if (Fields[i].Name.compare(name, Qt::CaseInsensitive) == 0)
+            return i;
+    return -1;
+}
+
+} // namespace dao
