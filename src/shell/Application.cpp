@@ -1,0 +1,45 @@
+#include "Application.h"
+
+#include "ErrorTrap.h"
+
+#include <QApplication>
+
+namespace lingomat {
+
+Application::Application(const Environment& environment)
+    : m_splash(environment.language),
+      m_state([&prompts = environment.prompts](const QString& description) {
+          reportError(prompts, description);
+      }),
+      m_settings(environment.settingsFolder ? SettingsStore(*environment.settingsFolder) : SettingsStore()),
+      m_values(environment.prompts),
+      m_context{m_state,   environment.prompts, m_settings,         m_values,
+                m_columns, m_progress,          environment.random, environment.today},
+      m_liste(m_context),
+      m_trainer(m_context, m_liste),
+      m_form2(m_context, m_liste, m_trainer),
+      m_form1(m_context, {m_splash, m_liste, m_trainer, m_form2},
+              {environment.programFolder, environment.workArea}) {
+    connectForms();
+}
+
+void Application::connectForms() {
+    // Loading.
+    QObject::connect(&m_splash, &frmSplash::mainWindowRequested, &m_form1, &Form1::start);
+    QObject::connect(&m_liste, &Liste::loadProgress, &m_splash, &frmSplash::setBar);
+    QObject::connect(&m_trainer, &Trainer::loadProgress, &m_splash, &frmSplash::setBar);
+
+    // Working.
+    QObject::connect(&m_form2, &Form2::selectionMade, &m_form1, &Form1::GreyOut);
+
+    // The end. Not QCoreApplication::quit, which would close the windows once more.
+    QObject::connect(&m_form1, &Form1::exitRequested, qApp, [] { QCoreApplication::exit(); });
+}
+
+void Application::start() {
+    // Windows come and go while the program loads; it ends by its own command only.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    m_splash.show();
+}
+
+} // namespace lingomat
