@@ -4,7 +4,9 @@
 
 namespace lingomat {
 
-void IntegerArray::redim(int size) { m_cells.assign(static_cast<size_t>(size), 0); }
+void IntegerArray::redim(int size) {
+    m_cells.assign(static_cast<size_t>(size), 0);
+}
 
 qint16 IntegerArray::operator()(int index) const {
     check(index);

@@ -89,26 +89,46 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    enum Panel { PanelEntriesLabel, PanelEntries, PanelPositionLabel, PanelPosition, PanelCount };
+    /// Rows of VokabelnGrid.
+    enum GridRow { TopLanguageRow, QuestionRow, OtherLanguageRow, SolutionRow, GridRowCount };
+
+    /// A button and the menu entry that does the same.
+    struct Command {
+        QPushButton* button = nullptr;
+        QAction* entry = nullptr;
+
+        void setEnabled(bool enabled) const;
+    };
+
     // Layout.
     void buildWidgets();
+    [[nodiscard]] QPushButton* newButton(QLatin1StringView name, QLatin1StringView iconName);
     void buildMenus();
+    [[nodiscard]] QAction* newEntry(QMenu& menu, QLatin1StringView name, const QKeySequence& key);
+    [[nodiscard]] QAction* newChoice(QMenu& menu, QActionGroup& group, QLatin1StringView name);
     void buildStatusBar();
     void connectEvents();
     void buildVokabelnGrid();
-    void fitVokabelnGrid();
+    void fitVokabelnGrid(); ///< fonts and sizes, by the form's font and the room there is
+    void fitRow(GridRow row, const QFont& font, int height);
 
     // Sequence.
     void shuffle();
     [[nodiscard]] qint16 randomRow();
-    void attempt(const std::function<void()>& step);
     void revealSolution();
     void askNext();
-    void move(int position);
-    void showWhere(bool isInRange);
+    [[nodiscard]] bool moveToOpenEntry();
+    void moveTo(int position);
+    void showMovedTo();
+    void clearDisplay();
+    void showEntry(int row);
+    void sayEndOfSequence();
+    void attempt(const std::function<void()>& step); ///< under the error trap
 
     // Options.
     void chooseOrder(bool Trainer::*order);
@@ -117,6 +137,24 @@ private:
 
     FormContext& m_context;
     Liste& m_liste;
+
+    FlexGrid* m_grid = nullptr;
+    QProgressBar* m_progressBar = nullptr;
+    QPushButton* m_restart = nullptr;
+    QPushButton* m_close = nullptr;
+    QAction* m_restartEntry = nullptr;
+    QAction* m_closeEntry = nullptr;
+    Command m_step;
+    Command m_back;
+    Command m_forward;
+    Command m_first;
+    Command m_last;
+    std::array<QLabel*, PanelCount> m_panels{};
+    QAction* m_sequential = nullptr;
+    QAction* m_shuffled = nullptr;
+    QAction* m_random = nullptr;
+    QAction* m_language1First = nullptr;
+    QAction* m_language2First = nullptr;
 };
 
 } // namespace lingomat

@@ -35,7 +35,9 @@ IntegerArray openLoop(int count) {
 }
 
 LoopPlace nextOpenPlace(int position, int roundPosition, const LoopSession& session) {
-    LoopPlace place{.position = position, .roundPosition = roundPosition};
+    LoopPlace place;
+    place.position = position;
+    place.roundPosition = roundPosition;
     const auto beginRound = [&] {
         place.position = 1;
         place.roundPosition = 0;

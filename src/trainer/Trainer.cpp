@@ -1,0 +1,70 @@
+#include "Trainer.h"
+
+#include "FlexGrid.h"
+
+#include <QEvent>
+
+namespace lingomat {
+
+namespace {
+
+// Where a window stands that was parked off the screen, and where it comes back.
+constexpr int ParkedLeft = -667;
+constexpr int ReturnLeft = 45;
+
+} // namespace
+
+Trainer::Trainer(FormContext& context, Liste& liste, QWidget* parent)
+    : QMainWindow(parent), m_context(context), m_liste(liste) {
+    setObjectName(QStringLiteral("Trainer"));
+    buildWidgets();
+    buildVokabelnGrid();
+    buildMenus();
+    buildStatusBar();
+    connectEvents();
+}
+
+Trainer::~Trainer() = default;
+
+void Trainer::Form_Load() {
+    Q_EMIT loadProgress(83);
+    Command6_Click();
+    Q_EMIT loadProgress(85);
+    OptionsToUI();
+    RowPositionToUI();
+    Q_EMIT loadProgress(88);
+    SetUserInterfaceProperties();
+    Q_EMIT loadProgress(90);
+}
+
+void Trainer::Form_Activate() {
+    OptionsToUI();
+    RowPositionToUI();
+    if (x() <= ParkedLeft)
+        move(ReturnLeft, y());
+}
+
+bool Trainer::event(QEvent* event) {
+    const bool isHandled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        Form_Activate();
+    return isHandled;
+}
+
+void Trainer::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitVokabelnGrid();
+}
+
+bool Trainer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_grid->viewport() && event->type() == QEvent::Resize)
+        fitVokabelnGrid();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void Trainer::Command4_Click() {
+    hide();
+}
+
+} // namespace lingomat

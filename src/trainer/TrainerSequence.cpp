@@ -1,0 +1,233 @@
+#include "Trainer.h"
+
+#include "ErrorTrap.h"
+#include "FlexGrid.h"
+#include "Globals.h"
+#include "Liste.h"
+#include "Progress.h"
+#include "SharedState.h"
+#include "TrainingWalk.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QScopeGuard>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lingomat {
+
+void Trainer::Command6_Click() {
+    attempt([this] { AnzahlEintraege = dao::toInteger16(m_liste.MSFlexGrid1().Rows() - 1); });
+    if (Reihenfolge_shuffle)
+        attempt([this] { shuffle(); });
+    m_progressBar->setVisible(!Reihenfolge_random);
+    if (Selbsttest && Schleife)
+        initialisiereSchleife();
+    ZeigeLoesung = 0;
+    Position = 0;
+    RundenPosition = 0;
+    AnzahlRichtig = 0;
+    RowPositionToUI();
+    ZeigeVokabel(0);
+    InitStatusBar();
+}
+
+void Trainer::initialisiereSchleife() {
+    if (AnzahlEintraege != 0)
+        SchleifeStatus = openLoop(AnzahlEintraege);
+}
+
+void Trainer::shuffle() {
+    if (AnzahlEintraege < 1)
+        return;
+    Progress& progress = m_context.progress;
+    const auto hideProgress = qScopeGuard([&progress] { progress.hide(); });
+    m_context.random.reseed();
+    progress.setWindowTitle(uiText(u"Vokabeln werden gemischt"_s, u"Shuffeling vocabulary ..."_s));
+    progress.setStatus({});
+    progress.setMinimum(0);
+    progress.setMaximum(AnzahlEintraege);
+    progress.setValue(0);
+    progress.showNow();
+    Sequenz = shuffledEntries(
+        AnzahlEintraege, [this] { return m_context.random.next(); },
+        [&progress](int place) {
+            progress.setValue(place);
+            progress.refresh();
+        });
+    OptionsToUI();
+    RowPositionToUI();
+}
+
+qint16 Trainer::randomRow() {
+    m_context.random.reseed();
+    return drawnEntry(AnzahlEintraege, m_context.random.next());
+}
+
+void Trainer::Command3_Click() {
+    if (ZeigeLoesung != 0)
+        revealSolution();
+    else
+        askNext();
+}
+
+void Trainer::revealSolution() {
+    attempt([this] { ZeigeVokabel(AktuelleZeile()); });
+    ZeigeLoesung = 0;
+}
+
+void Trainer::askNext() {
+    if (Reihenfolge_random) {
+        attempt([this] { Position = randomRow(); });
+    } else {
+        attempt([this] { Position = dao::toInteger16(Position + 1); });
+        if (Selbsttest && Schleife && !moveToOpenEntry()) {
+            sayEndOfSequence();
+            return;
+        }
+        RowPositionToUI();
+    }
+    if (Position >= m_liste.MSFlexGrid1().Rows()) {
+        sayEndOfSequence();
+        --Position;
+        return;
+    }
+    attempt([this] { ZeigeVokabel(AktuelleZeile()); });
+    ZeigeLoesung = 1;
+}
+
+/// An error on the way counts as an open entry, so that the step goes on behind it.
+bool Trainer::moveToOpenEntry() {
+    bool isOpen = true;
+    attempt([this, &isOpen] { isOpen = SetIndexAccordingToSchleife(); });
+    return isOpen;
+}
+
+bool Trainer::SetIndexAccordingToSchleife() {
+    const LoopPlace place = nextOpenPlace(Position, RundenPosition,
+                                          {.status = SchleifeStatus,
+                                           .entries = AnzahlEintraege,
+                                           .rows = m_liste.MSFlexGrid1().Rows(),
+                                           .answeredRight = AnzahlRichtig});
+    Position = dao::toInteger16(place.position);
+    RundenPosition = dao::toInteger16(place.roundPosition);
+    if (place.left) {
+        m_progressBar->setMaximum(*place.left);
+        m_panels[PanelEntries]->setText(QString::number(*place.left));
+    }
+    return place.isOpen;
+}
+
+void Trainer::back_Click() {
+    moveTo(1);
+    if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows())
+        showMovedTo();
+}
+
+void Trainer::ToEnd_Click() {
+    moveTo(m_liste.MSFlexGrid1().Rows() - 1);
+    if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows())
+        showMovedTo();
+}
+
+void Trainer::Command1_Click() {
+    moveTo(Position - 1);
+    if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows()) {
+        showMovedTo();
+        return;
+    }
+    Message beginning;
+    beginning.text = u"Beginning"_s; // the same in both languages
+    m_context.prompts.message(this, beginning);
+    Position = 1;
+}
+
+void Trainer::Command2_Click() {
+    moveTo(Position + 1);
+    if (Position < m_liste.MSFlexGrid1().Rows()) {
+        showMovedTo();
+        return;
+    }
+    sayEndOfSequence();
+    --Position;
+}
+
+/// What is reached by moving is browsed: it is shown with its solution. In random order there is no place
+/// to move to; the entry shown is drawn instead.
+void Trainer::moveTo(int position) {
+    ZeigeLoesung = 1;
+    if (Reihenfolge_random)
+        return;
+    attempt([this, position] { Position = dao::toInteger16(position); });
+    RowPositionToUI();
+}
+
+void Trainer::showMovedTo() {
+    attempt([this] { ZeigeVokabel(Reihenfolge_random ? randomRow() : AktuelleZeile()); });
+}
+
+void Trainer::sayEndOfSequence() {
+    Message end;
+    end.text = uiText(u"Die Sequenz ist beendet."_s, u"End of sequence."_s);
+    m_context.prompts.message(this, end);
+}
+
+int Trainer::returnSequenz(int index) const {
+    return Sequenz(index);
+}
+
+int Trainer::AktuelleZeile() const {
+    return Reihenfolge_shuffle ? returnSequenz(Position) : Position;
+}
+
+bool Trainer::PositioniereRecord(const QString& id) {
+    dao::Recordset& vokabular = m_context.state.DBHandler.RecordsetVokabular;
+    vokabular.FindFirst(u"ID LIKE '%1'"_s.arg(id));
+    return !vokabular.NoMatch();
+}
+
+void Trainer::ZeigeVokabel(int row) {
+    if (row == 0)
+        clearDisplay();
+    else
+        showEntry(row);
+    m_grid->setRow(QuestionRow);
+    m_grid->setCol(0);
+}
+
+void Trainer::clearDisplay() {
+    m_grid->setTextMatrix(QuestionRow, 0, {});
+    m_grid->setTextMatrix(SolutionRow, 0, {});
+    m_progressBar->setRange(0, std::max<int>(AnzahlEintraege, 1));
+    m_progressBar->setValue(0);
+}
+
+void Trainer::showEntry(int row) {
+    FlexGrid& entries = m_liste.MSFlexGrid1();
+    const QString language1 = entries.TextMatrix(row, Liste::ColSprache1);
+    const QString language2 = entries.TextMatrix(row, Liste::ColSprache2);
+    entries.setRow(row);
+    m_grid->setTextMatrix(QuestionRow, 0, Lang1Zuerst ? language1 : language2);
+    if (ZeigeLoesung == 1)
+        m_grid->setTextMatrix(SolutionRow, 0, Lang1Zuerst ? language2 : language1);
+    else
+        m_grid->setTextMatrix(SolutionRow, 0, {});
+    if (Reihenfolge_random)
+        return;
+    const int place = Selbsttest && Schleife ? RundenPosition : Position;
+    m_progressBar->setValue(std::min(place, m_progressBar->maximum()));
+    m_panels[PanelPosition]->setText(QString::number(place));
+}
+
+void Trainer::InitStatusBar() {
+    m_panels[PanelEntries]->setText(QString::number(m_liste.MSFlexGrid1().Rows() - 1));
+    m_panels[PanelPosition]->setText(u"0"_s);
+}
+
+void Trainer::attempt(const std::function<void()>& step) {
+    trapped(m_context.prompts, step);
+}
+
+} // namespace lingomat

@@ -1,0 +1,204 @@
+#include "TrainingBench.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace lingomat;
+
+namespace {
+
+struct NamedText {
+    const char* name;
+    const char16_t* german;
+    const char16_t* english;
+};
+
+constexpr NamedText ActionTexts[] = {
+    {"menNeustart", u"Neustart", u"&Restart"},
+    {"menClose", u"Schließen", u"&Close"},
+    {"menEinsWeiter", u"Eine Vokabel weiter", u"One Vocab &Forward"},
+    {"menEinsZurueck", u"Eine Vokabel zurück", u"One Vocab &Back"},
+    {"menStep", u"Step - Geht 1 Schritt weiter", u"Proceed to Next &Step"},
+    {"menAnfangSequenz", u"Zum Anfang der Sequenz", u"Be&ginning of Sequence"},
+    {"menEndeSequenz", u"Zum Ende der Sequenz", u"&End of Sequence"},
+    {"Reihenfolge_sequentiell", u"Vokabeln Sequentiell", u"Vocabulary in sequential order"},
+    {"Reihenfolge_shuffle", u"Vokabeln Gemischt", u"Vocabulary shuffled"},
+    {"Reihenfolge_random", u"Zufällige Vokabelauswahl", u"Vocabulary selected randomly"},
+    {"Lang1Zuerst", u"German zuerst", u"German first"},
+    {"Lang2Zuerst", u"English zuerst", u"English first"},
+};
+
+constexpr NamedText MenuTitles[] = {
+    {"menDatei", u"Datei", u"&File"},
+    {"menEinstellungen", u"Einstellungen", u"&Settings"},
+    {"menNavigieren", u"Navigieren", u"&Navigate"},
+};
+
+constexpr NamedText ButtonTips[] = {
+    {"Command6", u"Neustart der Sequenz", u"Restarts the sequence"},
+    {"Command4", u"Schließt dieses Fenster", u"Closes this window"},
+    {"back", u"Springt zur 1. Vokabel der Sequenz", u"Jumps to 1st vocab of the sequence"},
+    {"Command1", u"Eine Vokabel zurück", u"One vocab back"},
+    {"Command2", u"Eine Vokabel weiter", u"One vocab forward"},
+    {"ToEnd", u"Springt zur letzten Vokabel der Sequenz", u"Jumps to last vocab of the sequence"},
+    {"Command3", u"Step - Geht 1 Schritt weiter", u"Proceeds to next step"},
+};
+
+QString textOf(const NamedText& text, const QString& language) {
+    return QString::fromUtf16(language == u"En" ? text.english : text.german);
+}
+
+} // namespace
+
+TEST(Form, TextsInBothLanguages) {
+    for (const QString& language : {u"En"_s, u"De"_s}) {
+        TrainingBench bench(3, language);
+        for (const NamedText& text : ActionTexts)
+            EXPECT_EQ(bench.action(text.name).text(), textOf(text, language)) << text.name;
+        for (const NamedText& text : MenuTitles)
+            EXPECT_EQ(child<QMenu>(bench.trainer, text.name).title(), textOf(text, language)) << text.name;
+        for (const NamedText& text : ButtonTips)
+            EXPECT_EQ(bench.button(text.name).toolTip(), textOf(text, language)) << text.name;
+    }
+    TrainingBench english(3);
+    EXPECT_EQ(english.trainer.windowTitle(), u"Trainer");
+    EXPECT_EQ(english.button("Command6").text(), u"Restart");
+    EXPECT_EQ(english.button("Command4").text(), u"Close");
+    EXPECT_EQ(english.grid.toolTip(), u"Change row height with mouse");
+    EXPECT_EQ(english.panel(1), u"Number of vocabs");
+    EXPECT_EQ(english.panel(3), u"Vocab no.");
+    TrainingBench german(3, u"De"_s);
+    EXPECT_EQ(german.trainer.windowTitle(), u"Vokabeltrainer");
+    EXPECT_EQ(german.button("Command6").text(), u"Neustart");
+    EXPECT_EQ(german.button("Command4").text(), u"Schließen");
+    EXPECT_EQ(german.panel(1), u"Anzahl Vokabeln");
+    EXPECT_EQ(german.panel(3), u"Vokabel Nr.");
+}
+
+TEST(Form, EveryControlIsNamedForThoseWhoDoNotSeeIt) {
+    TrainingBench bench(3);
+    for (const NamedText& tip : ButtonTips) {
+        const QPushButton& button = bench.button(tip.name);
+        EXPECT_FALSE(button.text().isEmpty() && button.accessibleName().isEmpty()) << tip.name;
+        EXPECT_FALSE(button.text().isEmpty() && button.icon().isNull()) << tip.name;
+    }
+    EXPECT_FALSE(bench.grid.accessibleName().isEmpty());
+    EXPECT_FALSE(bench.bar().accessibleName().isEmpty());
+    EXPECT_EQ(child<QLabel>(bench.trainer, "StatusBar1_Panel2").accessibleName(), bench.panel(1));
+}
+
+TEST(Form, WhatComesLaterIsAbsent) {
+    TrainingBench bench(3);
+    for (const char* name : {"TabStrip1", "Toolbar1", "UpDown1", "UpDown2", "Richtig", "NichtWort", "Suche",
+                             "menMain", "menTestoptionen", "menAnsicht", "menExtras", "menSucheZuletzt"})
+        EXPECT_FALSE(hasChild(bench.trainer, name)) << name;
+}
+
+TEST(Form, LoadingMovesTheSplashBarOn) {
+    TestContext context;
+    Liste list(context.forms);
+    list.Form_Load();
+    Trainer trainer(context.forms, list);
+    QList<int> values;
+    QObject::connect(&trainer, &Trainer::loadProgress, &trainer, [&values](int value) { values += value; });
+    trainer.Form_Load();
+    ASSERT_GE(values.size(), 2);
+    EXPECT_EQ(values.at(0), 83);
+    EXPECT_EQ(values.at(1), 85);
+    EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
+    EXPECT_LT(values.last(), 95);
+}
+
+TEST(Form, ClosingHidesItAndKeepsTheSession) {
+    TrainingBench bench(3);
+    bench.step();
+    for (int way = 0; way < 3; ++way) {
+        bench.trainer.show();
+        if (way == 0)
+            bench.button("Command4").click();
+        else if (way == 1)
+            bench.choose("menClose");
+        else
+            bench.trainer.close();
+        EXPECT_FALSE(bench.trainer.isVisible());
+        EXPECT_EQ(bench.trainer.Position, 1);
+        EXPECT_EQ(bench.question(), u"Wort 1");
+    }
+}
+
+TEST(Form, AWindowParkedOffTheScreenComesBack) {
+    TrainingBench bench(3);
+    bench.trainer.move(-10000, 30);
+    bench.trainer.Form_Activate();
+    EXPECT_EQ(bench.trainer.x(), 45);
+    EXPECT_EQ(bench.trainer.y(), 30);
+}
+
+TEST(Form, TheKeyboardAloneSuffices) {
+    TrainingBench bench(4);
+    bench.trainer.show();
+    bench.trainer.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.trainer));
+    EXPECT_EQ(bench.trainer.focusWidget(), &bench.button("Command3"));
+
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    };
+    press(Qt::Key_Space);
+    EXPECT_EQ(bench.question(), u"Wort 1");
+    press(Qt::Key_Return);
+    EXPECT_EQ(bench.solution(), u"word 1");
+    press(Qt::Key_Enter);
+    EXPECT_EQ(bench.question(), u"Wort 2");
+    press(Qt::Key_F8);
+    EXPECT_EQ(bench.solution(), u"word 2");
+    press(Qt::Key_F9);
+    EXPECT_EQ(bench.trainer.Position, 3);
+    press(Qt::Key_F7);
+    EXPECT_EQ(bench.trainer.Position, 2);
+    press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(bench.trainer.Position, 4);
+    press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(bench.trainer.Position, 1);
+    press(Qt::Key_F5);
+    EXPECT_EQ(bench.trainer.Position, 0);
+
+    bench.grid.setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(bench.question(), u"Wort 1");
+    press(Qt::Key_Return);
+    EXPECT_EQ(bench.solution(), u"word 1");
+
+    bench.button("Command4").setFocus();
+    press(Qt::Key_Return);
+    EXPECT_FALSE(bench.trainer.isVisible());
+}
+
+TEST(Form, QuestionAndSolutionShareTheRoom) {
+    TrainingBench bench(3);
+    bench.trainer.show();
+    for (const QSize& size : {QSize(600, 400), QSize(800, 560), QSize(420, 300)}) {
+        bench.trainer.resize(size);
+        QApplication::processEvents();
+        const FlexGrid& grid = bench.grid;
+        EXPECT_NEAR(grid.RowHeight(1), grid.RowHeight(3), 1);
+        EXPECT_EQ(grid.RowHeight(0), grid.RowHeight(2));
+        EXPECT_GT(grid.RowHeight(1), grid.RowHeight(0));
+        const int total = grid.RowHeight(0) + grid.RowHeight(1) + grid.RowHeight(2) + grid.RowHeight(3);
+        EXPECT_EQ(total, grid.viewport()->height());
+        EXPECT_EQ(grid.ColWidth(0), grid.viewport()->width());
+    }
+}
+
+TEST(Form, FitsASmallScreen) {
+    TrainingBench bench(3);
+    const QSize smallest = bench.trainer.minimumSizeHint();
+    EXPECT_LE(smallest.width(), 800);
+    EXPECT_LE(smallest.height(), 600);
+}
