@@ -122,6 +122,7 @@ private:
     void cmdRemoveAll_Click();
     void tbsOptions_Click();
     void TabStrip1_Click();
+    void addTab(int number, const QString& caption);
     void selectTab(int number);
     void selectNextTab();
     void filterChanged() { AuswahlGeaendert = true; }

@@ -62,11 +62,11 @@ void Form2::buildWidgets() {
     m_tabStrip = named(new QTabBar, u"TabStrip1"_s);
     m_tabStrip->setExpanding(false);
     m_tabStrip->setDrawBase(false);
-    m_tabStrip->addTab({});
-    m_tabStrip->addTab({});
+    m_tabStrip->setTabData(m_tabStrip->addTab({}), u"tabStandard"_s);
+    m_tabStrip->setTabData(m_tabStrip->addTab({}), u"tabErweitert"_s);
     m_tabs = new SideTabBar(u"tbsOptions"_s);
-    for (int tab = 0; tab < TabCount; ++tab)
-        m_tabs->addTab({});
+    for (int number = 1; number <= TabCount; ++number)
+        addTab(number, {});
 
     auto* body = new QHBoxLayout;
     body->setSpacing(0);

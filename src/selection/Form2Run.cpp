@@ -152,7 +152,6 @@ void Form2::fillList(const QString& criterion) {
         const int position = selection.AbsolutePosition();
         progress.setValue(position);
         progress.setStatus(label + QString::number(position));
-        progress.refresh();
         grid.AddItem({});
         addRow(grid.Rows() - 1, true);
         selection.FindNext(criterion);

@@ -16,23 +16,28 @@ namespace lingomat {
 namespace {
 
 struct TabCaption {
+    const char16_t* name;
     const char16_t* german;
     const char16_t* english;
 };
 
 constexpr std::array<TabCaption, TabCount> captions{{
-    {u"Quelle", u"Source"},
-    {u"Bereich", u"Area"},
-    {u"Wortart", u"Part of Speech"},
-    {u"Fehlerscore", u"Error Score"},
-    {u"Grammatikalische Attribute", u"Grammar Attributes"},
-    {u"Funktionale Attribute", u"Functional Attributes"},
-    {u"Wortbestandteile", u"Wordparts"},
-    {u"Referenzen", u"References"},
-    {u"Sonstiges", u"Miscellaneous"},
+    {u"tabQuelle", u"Quelle", u"Source"},
+    {u"tabBereich", u"Bereich", u"Area"},
+    {u"tabWortart", u"Wortart", u"Part of Speech"},
+    {u"tabFehlerscore", u"Fehlerscore", u"Error Score"},
+    {u"tabGrammatikalisch", u"Grammatikalische Attribute", u"Grammar Attributes"},
+    {u"tabFunktional", u"Funktionale Attribute", u"Functional Attributes"},
+    {u"tabWortbestandteile", u"Wortbestandteile", u"Wordparts"},
+    {u"tabReferenzen", u"Referenzen", u"References"},
+    {u"tabSonstiges", u"Sonstiges", u"Miscellaneous"},
 }};
 
 } // namespace
+
+QString tabName(int number) {
+    return QString::fromUtf16(captions.at(static_cast<size_t>(number - 1)).name);
+}
 
 QString germanTabCaption(int number) {
     return QString::fromUtf16(captions.at(static_cast<size_t>(number - 1)).german);
@@ -60,8 +65,12 @@ void Form2::SetTabToAdvanced() {
     if (!StandardTabs)
         return;
     for (int number = StandardTabCount + 1; number <= TabCount; ++number)
-        m_tabs->addTab(germanTabCaption(number)); // German in the English interface too
+        addTab(number, germanTabCaption(number)); // German in the English interface too
     StandardTabs = false;
+}
+
+void Form2::addTab(int number, const QString& caption) {
+    m_tabs->setTabData(m_tabs->addTab(caption), tabName(number));
 }
 
 void Form2::HidePictureBoxes() {

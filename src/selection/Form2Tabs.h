@@ -23,6 +23,7 @@ enum TabNumber : int {
     TabSonstiges,
 };
 
+[[nodiscard]] QString tabName(int number); ///< what the tab's data holds
 [[nodiscard]] QString germanTabCaption(int number);
 [[nodiscard]] QString englishTabCaption(int number);
 

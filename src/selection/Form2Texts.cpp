@@ -39,6 +39,9 @@ constexpr FormText texts[] = {
     {"mnChangeDatum", u"Ä&nderungsdatum", u"Date of &Change"},
     {"mnZusatzinfo", u"&Zusatzinfo", u"Additional &Info"},
 
+    {"tabStandard", u"Standard", u"Standard"},
+    {"tabErweitert", u"Erweitert", u"Advanced"},
+
     {"Command1", u"OK", u"OK",
      u"Startet die Abfrage mit den eingestellten Auswahlkriterien und schließt das Fenster",
      u"Starts the query as defined by the selection parameters and closes this window"},
@@ -90,8 +93,6 @@ QString accessiblePart(const QString& language, const QString& german, const QSt
 
 void Form2::SetUserInterfaceProperties() {
     applyTexts(*this, texts);
-    m_tabStrip->setTabText(0, u"Standard"_s);
-    m_tabStrip->setTabText(1, uiText(u"Erweitert"_s, u"Advanced"_s));
     m_tabStrip->setAccessibleName(uiText(u"Umfang der Auswahl"_s, u"Extent of the selection"_s));
     m_tabs->setAccessibleName(uiText(u"Auswahlkriterien"_s, u"Selection criteria"_s));
     for (int index = 0; index < m_tabs->count(); ++index)
