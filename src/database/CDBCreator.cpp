@@ -87,7 +87,8 @@ struct RelationKind {
 };
 constexpr std::array<RelationKind, 3> RelationKinds{{
     {u"Bereich", u"VokabularBereiche_Z", u"Bereiche_Zwischen"},
-    {u"GrammatikalischeAttribute", u"VokabularGrammatikalischeAttribute_Z", u"GrammatikalischeAttribute_Zwischen"},
+    {u"GrammatikalischeAttribute", u"VokabularGrammatikalischeAttribute_Z",
+     u"GrammatikalischeAttribute_Zwischen"},
     {u"FunktionaleAttribute", u"VokabularFunktionaleAttribute_Z", u"FunktionaleAttribute_Zwischen"},
 }};
 
@@ -95,7 +96,8 @@ constexpr std::array<RelationKind, 3> RelationKinds{{
 
 CDBCreator::CDBCreator(Notifier notifier) : m_notifier(std::move(notifier)) {}
 
-dao::Database CDBCreator::CreateNewDatabase(const QString& path, bool showMessage, LanguageFields& languages) {
+dao::Database CDBCreator::CreateNewDatabase(const QString& path, bool showMessage,
+                                            LanguageFields& languages) {
     try {
         Database = dao::DBEngine::Workspaces(0).CreateDatabase(path, u";LANGID=0x0409;CP=1252;COUNTRY=0"_s);
         createAll(languages);
@@ -193,8 +195,8 @@ void CDBCreator::MakeRelation(const QString& kind, dao::Database& database) {
     for (const RelationKind& relation : RelationKinds) {
         if (kind != relation.kind)
             continue;
-        database.appendRelation({relation.name.toString(), u"Vokabular"_s, relation.foreignTable.toString(), u"ID"_s,
-                                 u"IDV"_s, dao::dbRelationDontEnforce});
+        database.appendRelation({relation.name.toString(), u"Vokabular"_s, relation.foreignTable.toString(),
+                                 u"ID"_s, u"IDV"_s, dao::dbRelationDontEnforce});
         return;
     }
     m_notifier.internalError();

@@ -105,7 +105,8 @@ bool CDBHandler::OpenAllRecordsets() {
         *each.recordset = dao::Recordset();
     return reported([this] {
         for (const TableRecordset& each : recordsets())
-            *each.recordset = Database.OpenRecordset(u"SELECT * FROM "_s + each.table, dao::RecordsetType::Dynaset);
+            *each.recordset =
+                Database.OpenRecordset(u"SELECT * FROM "_s + each.table, dao::RecordsetType::Dynaset);
     });
 }
 
@@ -131,8 +132,9 @@ bool CDBHandler::GetLanguages() {
         if (!names)
             return;
         const bool plainNames = !property.isEmpty() && versionOf(Database) >= FirstVersionWithPlainFieldNames;
-        static_cast<LanguageFields&>(*this) = plainNames ? languageFields(*names, u"Lang1"_s, u"Lang2"_s)
-                                                         : languageFields(*names, names->first, names->second);
+        static_cast<LanguageFields&>(*this) = plainNames
+                                                  ? languageFields(*names, u"Lang1"_s, u"Lang2"_s)
+                                                  : languageFields(*names, names->first, names->second);
         isLanguageDatabase = true;
     });
     return isLanguageDatabase;

@@ -34,7 +34,7 @@ public:
 
     explicit CDBHandler(ErrorReporter reportError, MessageText synonymNotFound = {});
 
-    dao::Database Database; ///< set by whoever opens or creates the file
+    dao::Database Database;            ///< set by whoever opens or creates the file
     dao::Recordset RecordsetAuswahl;   ///< the selection; the list, the Trainer and the entry count read it
     dao::Recordset RecordsetVokabular; ///< all entries, for writing and for finding by `ID`
     dao::Recordset RecordsetSuche;     ///< all entries, for searching while the other two stay where they are
@@ -60,10 +60,12 @@ public:
     // Record maintenance. Several values of one entry travel packed: each item followed by ";".
 
     /// Replaces the links of the current row of `vokabular` by the items of `packed`. Always true.
-    bool SchreibeArrayToDB(const QString& packed, dao::Recordset& list, dao::Recordset& links, dao::Recordset& vokabular);
+    bool SchreibeArrayToDB(const QString& packed, dao::Recordset& list, dao::Recordset& links,
+                           dao::Recordset& vokabular);
     bool EntferneAllArraysForCurrent(dao::Recordset& links, dao::Recordset& vokabular);
     /// Links one item, adding it to its list table where it is new.
-    bool SchreibeArrayItemToDB(const QString& item, dao::Recordset& list, dao::Recordset& links, dao::Recordset& vokabular);
+    bool SchreibeArrayItemToDB(const QString& item, dao::Recordset& list, dao::Recordset& links,
+                               dao::Recordset& vokabular);
     /// Whether a reference of that type stands between the two entries, in either direction.
     bool CheckRelationExist(const QString& a, const QString& b, const QString& type);
     void DeleteRelationalEntriesForID(qint16 id); ///< links and references of an entry; its synonyms stay

@@ -86,8 +86,8 @@ bool CDBHandler::CheckRelationExist(const QString& a, const QString& b, const QS
         const auto between = [](const QString& from, const QString& to) {
             return u"(von LIKE '"_s + from + u"' AND nach LIKE '"_s + to + u"')"_s;
         };
-        RecordsetReferenzen.FindFirst(u"("_s + between(a, b) + u" OR "_s + between(b, a) + u") AND (Typ = '"_s + type +
-                                      u"')"_s);
+        RecordsetReferenzen.FindFirst(u"("_s + between(a, b) + u" OR "_s + between(b, a) +
+                                      u") AND (Typ = '"_s + type + u"')"_s);
         exists = found(RecordsetReferenzen);
     });
     return exists;
@@ -99,7 +99,8 @@ void CDBHandler::DeleteRelationalEntriesForID(qint16 id) {
         DeleteEntryForID(id, RecordsetGrammatikalisch_Z);
         DeleteEntryForID(id, RecordsetFunktional_Z);
         for (const QString& end : {u"von"_s, u"nach"_s})
-            forEach(RecordsetReferenzen, like(end, QString::number(id)), [&] { editAndDelete(RecordsetReferenzen); });
+            forEach(RecordsetReferenzen, like(end, QString::number(id)),
+                    [&] { editAndDelete(RecordsetReferenzen); });
     });
 }
 

@@ -48,10 +48,10 @@ bool holds(Operator op, int order) {
 
 } // namespace
 
-Evaluator::Evaluator(const Node& tree, std::span<const dao::Value> literals)
-    : m_tree(tree), m_literals(literals.begin(), literals.end()), m_patterns(literals.size()) {
-    m_texts.reserve(literals.size());
-    for (const dao::Value& literal : literals)
+Evaluator::Evaluator(const Node& tree, std::vector<dao::Value> literals)
+    : m_tree(tree), m_literals(std::move(literals)), m_patterns(m_literals.size()) {
+    m_texts.reserve(m_literals.size());
+    for (const dao::Value& literal : m_literals)
         m_texts.push_back(literal.toText(QString()));
     compilePatterns(tree);
 }

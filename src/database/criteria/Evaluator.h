@@ -6,7 +6,6 @@
 #include <QStringView>
 
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace criteria {
@@ -35,7 +34,7 @@ public:
 class Evaluator {
 public:
     /// The tree has to be resolved and to outlive the evaluator. Patterns are compiled here (error 93).
-    Evaluator(const Node& tree, std::span<const dao::Value> literals);
+    Evaluator(const Node& tree, std::vector<dao::Value> literals);
 
     [[nodiscard]] bool matches(const RowView& row) const { return truth(m_tree, row) == Truth::True; }
 

@@ -94,14 +94,14 @@ private:
         m_result.shape += u']';
     }
 
-    void addLiteral(dao::Value value) {
+    void addLiteral(dao::Value value, QStringView digits = {}) {
         const bool isPattern = !m_result.tokens.empty() && m_result.tokens.back().kind == TokenKind::Like;
         if (isPattern && !value.isText())
             value = value.toText();
         if (isPattern)
             m_result.shape += u"=*?"[static_cast<int>(patternKind(value.toText()))];
         m_result.shape += value.isText() ? u't' : u'n';
-        m_result.tokens.push_back({TokenKind::Literal, {}, static_cast<int>(m_result.literals.size())});
+        m_result.tokens.push_back({TokenKind::Literal, digits, static_cast<int>(m_result.literals.size())});
         m_result.literals.push_back(std::move(value));
     }
 
@@ -149,9 +149,9 @@ private:
         const QStringView text = m_text.sliced(start, m_at - start);
         bool good = false;
         if (const qint64 whole = text.toLongLong(&good); good)
-            return addLiteral(whole);
+            return addLiteral(whole, text);
         if (const double real = text.toDouble(&good); good)
-            return addLiteral(real);
+            return addLiteral(real, text);
         throw SyntaxError();
     }
 

@@ -39,7 +39,7 @@ enum class TokenKind {
 
 struct Token {
     TokenKind kind;
-    QStringView name; ///< of a Name; a view into the text
+    QStringView name; ///< of a Name, or the digits of a number; a view into the text
     int literal = -1; ///< of a Literal: its place in LexedText::literals
 };
 

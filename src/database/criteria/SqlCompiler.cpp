@@ -113,7 +113,8 @@ private:
             const QByteArray pattern = parameter(l.pattern, Parameter::Form::AsItIs);
             sql = QByteArray(PatternFunction) + "(" + pattern + ", " + subject + ")";
         } else if (isText(l.subject)) {
-            sql = subject + " = " + parameter(l.pattern, Parameter::Form::AsItIs) + " COLLATE " + FoldedCollation;
+            sql = subject + " = " + parameter(l.pattern, Parameter::Form::AsItIs) + " COLLATE " +
+                  FoldedCollation;
         } else {
             sql = subject + " = " + parameter(l.pattern, Parameter::Form::WholeNumber);
         }

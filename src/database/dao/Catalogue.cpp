@@ -19,8 +19,10 @@ const char* const CatalogueTables[] = {
     "WITHOUT ROWID",
     "CREATE TABLE lmt_indexes(table_name TEXT, name TEXT, field TEXT, is_primary INTEGER, is_unique INTEGER, "
     "PRIMARY KEY(table_name, name)) WITHOUT ROWID",
-    "CREATE TABLE lmt_properties(position INTEGER PRIMARY KEY, table_name TEXT, name TEXT, type INTEGER, value)",
-    "CREATE TABLE lmt_relations(position INTEGER PRIMARY KEY, name TEXT, table_name TEXT, foreign_table TEXT, "
+    "CREATE TABLE lmt_properties(position INTEGER PRIMARY KEY, table_name TEXT, name TEXT, type INTEGER, "
+    "value)",
+    "CREATE TABLE lmt_relations(position INTEGER PRIMARY KEY, name TEXT, table_name TEXT, foreign_table "
+    "TEXT, "
     "field TEXT, foreign_field TEXT, attributes INTEGER)",
 };
 
@@ -53,7 +55,8 @@ QByteArray createTableSql(const Table& table) {
 
 QByteArray createIndexSql(const Table& table, const QString& name, const QString& field, bool unique) {
     return QByteArray(unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") +
-           quotedName(table.definition.Name + u'_' + name) + " ON " + table.sqlName + "(" + quotedName(field) + ")";
+           quotedName(table.definition.Name + u'_' + name) + " ON " + table.sqlName + "(" +
+           quotedName(field) + ")";
 }
 
 /// The indexes that the definition tells, and one for every other key that searches go by (a Long field).
@@ -85,8 +88,8 @@ void insert(Connection& connection, const QByteArray& sql, const Values&... valu
 }
 
 void insertProperty(Connection& connection, const QString& table, const Property& property) {
-    insert(connection, "INSERT INTO lmt_properties(table_name, name, type, value) VALUES(?1, ?2, ?3, ?4)", table,
-           property.Name, static_cast<int>(property.Type), property.Value);
+    insert(connection, "INSERT INTO lmt_properties(table_name, name, type, value) VALUES(?1, ?2, ?3, ?4)",
+           table, property.Name, static_cast<int>(property.Type), property.Value);
 }
 
 DataType dataType(qint64 number) {
@@ -128,9 +131,9 @@ void Connection::addTable(const TableDef& definition) {
         execute(sql);
     int position = 0;
     for (const Field& field : definition.Fields)
-        insert(*this, "INSERT INTO lmt_fields VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)", definition.Name, ++position,
-               field.Name, static_cast<int>(field.Type), field.Size, field.Attributes, field.DefaultValue,
-               field.AllowZeroLength ? 1 : 0);
+        insert(*this, "INSERT INTO lmt_fields VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)", definition.Name,
+               ++position, field.Name, static_cast<int>(field.Type), field.Size, field.Attributes,
+               field.DefaultValue, field.AllowZeroLength ? 1 : 0);
     for (const Index& index : definition.Indexes)
         insert(*this, "INSERT INTO lmt_indexes VALUES(?1, ?2, ?3, ?4, ?5)", definition.Name, index.Name,
                index.FieldName, index.Primary ? 1 : 0, index.Unique ? 1 : 0);
@@ -157,9 +160,10 @@ void Connection::addRelation(const Relation& relation) {
 }
 
 void Connection::readCatalogue() {
-    Statement fields(m_handle.get(), "SELECT f.table_name, f.name, f.type, f.size, f.attributes, f.default_value, "
-                                     "f.allow_zero_length FROM lmt_fields f JOIN sqlite_schema s "
-                                     "ON s.type = 'table' AND s.name = f.table_name ORDER BY s.rowid, f.position");
+    Statement fields(m_handle.get(),
+                     "SELECT f.table_name, f.name, f.type, f.size, f.attributes, f.default_value, "
+                     "f.allow_zero_length FROM lmt_fields f JOIN sqlite_schema s "
+                     "ON s.type = 'table' AND s.name = f.table_name ORDER BY s.rowid, f.position");
     while (fields.step()) {
         const QString tableName = fields.text(0);
         auto& table = m_tables[tableName.toLower()];
@@ -168,27 +172,30 @@ void Connection::readCatalogue() {
             table->definition.Name = tableName;
             m_tableNames.append(tableName);
         }
-        table->definition.Fields.append({fields.text(1), dataType(fields.integer(2)),
-                                         static_cast<int>(fields.integer(3)), static_cast<int>(fields.integer(4)),
-                                         fields.value(5), fields.integer(6) != 0});
+        table->definition.Fields.append(
+            {fields.text(1), dataType(fields.integer(2)), static_cast<int>(fields.integer(3)),
+             static_cast<int>(fields.integer(4)), fields.value(5), fields.integer(6) != 0});
     }
     for (const auto& [name, table] : m_tables)
         setKey(*table);
 
-    Statement indexes(m_handle.get(), "SELECT table_name, name, field, is_primary, is_unique FROM lmt_indexes");
+    Statement indexes(m_handle.get(),
+                      "SELECT table_name, name, field, is_primary, is_unique FROM lmt_indexes");
     while (indexes.step())
         if (Table* const table = findTable(indexes.text(0)))
             table->definition.Indexes.append(
                 {indexes.text(1), indexes.text(2), indexes.integer(3) != 0, indexes.integer(4) != 0});
 
-    Statement properties(m_handle.get(), "SELECT table_name, name, type, value FROM lmt_properties ORDER BY position");
+    Statement properties(m_handle.get(),
+                         "SELECT table_name, name, type, value FROM lmt_properties ORDER BY position");
     while (properties.step())
         if (Table* const table = findTable(properties.text(0)))
             table->definition.Properties.append(
                 {properties.text(1), dataType(properties.integer(2)), properties.value(3)});
 
-    Statement relations(m_handle.get(), "SELECT name, table_name, foreign_table, field, foreign_field, attributes "
-                                        "FROM lmt_relations ORDER BY position");
+    Statement relations(m_handle.get(),
+                        "SELECT name, table_name, foreign_table, field, foreign_field, attributes "
+                        "FROM lmt_relations ORDER BY position");
     while (relations.step())
         m_relations.append({relations.text(0), relations.text(1), relations.text(2), relations.text(3),
                             relations.text(4), static_cast<int>(relations.integer(5))});

@@ -2,6 +2,8 @@
 
 #include <QFileInfo>
 
+#include <mutex>
+
 using namespace Qt::StringLiterals;
 
 namespace dao {
@@ -12,6 +14,16 @@ namespace {
 constexpr int BusyTimeout = 2000;
 constexpr std::size_t MaximumPlans = 500;
 constexpr qint64 CheapCheckBytes = 4 * 1024 * 1024;
+
+/// A connection stays with one thread, and nobody asks SQLite for its memory statistics: neither needs a
+/// mutex. Without effect where somebody else in the process was first.
+void configureLibrary() {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        sqlite3_config(SQLITE_CONFIG_MULTITHREAD);
+        sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    });
+}
 
 } // namespace
 
@@ -25,6 +37,7 @@ Connection::Connection(const QString& path, Mode mode) : m_path(path) {
 }
 
 void Connection::open(Mode mode) {
+    configureLibrary();
     const int flags = mode == Mode::Create ? SQLITE_OPEN_CREATE : 0;
     sqlite3* raw = nullptr;
     const int code = sqlite3_open_v2(m_path.toUtf8().constData(), &raw,
@@ -60,6 +73,7 @@ void Connection::requireOpen() const {
 
 void Connection::close() {
     requireOpen();
+    m_memo.clear();
     m_plans.clear();
     m_statements.clear();
     m_handle.reset();
@@ -115,16 +129,18 @@ QStringList Connection::tableNames() const {
     return m_tableNames;
 }
 
-std::shared_ptr<const SelectPlan> Connection::selectPlan(const QString& statement,
-                                                         const criteria::LexedText& text) {
+PlanMemo<SelectPlan>::Hit Connection::selectPlan(const QString& statement) {
     requireOpen();
-    if (const auto known = m_plans.find(text.shape); known != m_plans.end())
-        return known->second;
-    auto plan = compileSelect(*this, statement, text);
+    if (auto hit = m_memo.find(statement))
+        return std::move(*hit);
+    const criteria::LexedText text = lexStatement(statement);
     if (m_plans.size() >= MaximumPlans)
         m_plans.clear();
-    m_plans.emplace(text.shape, plan);
-    return plan;
+    auto& plan = m_plans[text.shape];
+    if (plan == nullptr)
+        plan = compileSelect(*this, statement, text);
+    m_memo.remember(statement, text, plan);
+    return {plan, text.literals};
 }
 
 void Connection::checkFormat() {

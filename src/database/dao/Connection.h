@@ -66,9 +66,8 @@ public:
     [[nodiscard]] const QList<Relation>& relations() const { return m_relations; }
     void recordLocale(const QString& locale);
 
-    /// The plan for a statement of this shape, compiled at its first use.
-    [[nodiscard]] std::shared_ptr<const SelectPlan> selectPlan(const QString& statement,
-                                                               const criteria::LexedText& text);
+    /// The plan for a statement and its literals; compiled at the first use of its shape.
+    [[nodiscard]] PlanMemo<SelectPlan>::Hit selectPlan(const QString& statement);
 
 private:
     void open(Mode mode);
@@ -84,6 +83,7 @@ private:
     std::map<QString, std::unique_ptr<Table>> m_tables; ///< by lower-case name
     QStringList m_tableNames;
     QList<Relation> m_relations;
+    PlanMemo<SelectPlan> m_memo;
     int m_readers = 0;
     std::unordered_map<std::u16string, std::shared_ptr<const SelectPlan>> m_plans; ///< by shape
 };

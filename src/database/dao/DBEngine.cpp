@@ -20,8 +20,9 @@ Error invalidPath(const QString& path) {
 }
 
 Error cannotOpen(const QString& path) {
-    return {ErrorNumber::CannotOpenFile,
-            u"Cannot open the file '%1'. It is in use by another program, or permission is missing."_s.arg(path)};
+    return {
+        ErrorNumber::CannotOpenFile,
+        u"Cannot open the file '%1'. It is in use by another program, or permission is missing."_s.arg(path)};
 }
 
 /// Looks at the file before SQLite does: an empty file would pass for an empty database there.

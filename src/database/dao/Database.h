@@ -25,8 +25,9 @@ public:
     void Close();
 
     [[nodiscard]] bool isOpen() const;
-    [[nodiscard]] QString Name() const;    ///< full path of the file
-    [[nodiscard]] QString Version() const; ///< version of the file's layout; serves as a test for "is there a database"
+    [[nodiscard]] QString Name() const; ///< full path of the file
+    [[nodiscard]] QString
+    Version() const; ///< version of the file's layout; serves as a test for "is there a database"
     [[nodiscard]] bool isReadOnly() const;
 
     [[nodiscard]] QStringList TableNames() const;
@@ -42,7 +43,8 @@ public:
 
     /// Opens `SELECT [DISTINCT] * | list FROM t1, t2, ... [WHERE expression]`.
     /// Errors: 3075 syntax, 3078 unknown table, 3061 unknown field, 3079 ambiguous field, 93 pattern.
-    [[nodiscard]] Recordset OpenRecordset(const QString& statement, RecordsetType type = RecordsetType::Dynaset) const;
+    [[nodiscard]] Recordset OpenRecordset(const QString& statement,
+                                          RecordsetType type = RecordsetType::Dynaset) const;
 
 private:
     friend class DBEngine;

@@ -18,7 +18,8 @@ void bindAll(Statement& statement, int first, const std::vector<Value>& values) 
         statement.bind(first++, value);
 }
 
-std::vector<Value> boundValues(const std::vector<criteria::Parameter>& parameters, const std::vector<Value>& literals) {
+std::vector<Value> boundValues(const std::vector<criteria::Parameter>& parameters,
+                               const std::vector<Value>& literals) {
     std::vector<Value> values;
     values.reserve(parameters.size());
     for (const criteria::Parameter& parameter : parameters)
@@ -30,8 +31,10 @@ std::vector<Value> boundValues(const std::vector<criteria::Parameter>& parameter
 
 Dynaset::Dynaset(std::shared_ptr<Connection> connection, std::shared_ptr<const SelectPlan> plan,
                  std::vector<Value> literals)
-    : RecordsetPrivate(std::move(connection), std::move(plan)), m_literals(std::move(literals)),
-      m_run(static_cast<int>(this->plan().columns.size())), m_single(static_cast<int>(this->plan().columns.size())) {
+    : RecordsetPrivate(std::move(connection), std::move(plan)),
+      m_literals(std::move(literals)),
+      m_run(static_cast<int>(this->plan().columns.size())),
+      m_single(static_cast<int>(this->plan().columns.size())) {
     requery();
 }
 
@@ -62,11 +65,10 @@ std::optional<std::size_t> Dynaset::positionOf(qint64 bookmark) const {
 void Dynaset::useCriterion(const QString& criterion) {
     if (m_find != nullptr && criterion == m_criterion)
         return;
-    const criteria::LexedText text = lexCriterion(criterion);
-    auto find = plan().findPlan(criterion, text);
+    auto [find, literals] = plan().findPlan(criterion);
     // An invalid pattern is told before any row is looked at.
-    const criteria::Evaluator patterns(find->tree, text.literals);
-    m_findValues = boundValues(find->parameters, text.literals);
+    const criteria::Evaluator patterns(find->tree, literals);
+    m_findValues = boundValues(find->parameters, literals);
     m_find = std::move(find);
     m_criterion = criterion;
     m_run.valid = false;

@@ -39,9 +39,10 @@ Value fitted(const QString& table, const Field& field, const Value& value) {
     }
     const QString text = value.toText();
     if (text.size() > field.Size)
-        throw Error(ErrorNumber::TextTooLong,
-                    u"The field '%1.%2' is too small to accept the amount of data you attempted to add."_s.arg(
-                        table, field.Name));
+        throw Error(
+            ErrorNumber::TextTooLong,
+            u"The field '%1.%2' is too small to accept the amount of data you attempted to add."_s.arg(
+                table, field.Name));
     if (text.isEmpty() && !field.AllowZeroLength)
         throw Error(ErrorNumber::EmptyTextNotAllowed,
                     u"Field '%1.%2' cannot be a zero-length string."_s.arg(table, field.Name));
@@ -117,9 +118,9 @@ void Dynaset::insertRow() {
         values.push_back(m_values[i]);
         parameters += separator + '?' + QByteArray::number(static_cast<qulonglong>(values.size()));
     }
-    const QByteArray sql = "INSERT INTO " + table().sqlName +
-                           (names.isEmpty() ? QByteArray(" DEFAULT VALUES")
-                                            : '(' + names + ") VALUES(" + parameters + ')');
+    const QByteArray sql =
+        "INSERT INTO " + table().sqlName +
+        (names.isEmpty() ? QByteArray(" DEFAULT VALUES") : '(' + names + ") VALUES(" + parameters + ')');
     connection().prepareToWrite();
     {
         const StatementRun run(connection().statement(sql));
@@ -156,8 +157,8 @@ void Dynaset::updateRow() {
     }
     connection().prepareToWrite();
     {
-        const StatementRun run(connection().statement("UPDATE " + table().sqlName + " SET " + assignments + " WHERE " +
-                                                      table().keyColumn + " = ?1"));
+        const StatementRun run(connection().statement("UPDATE " + table().sqlName + " SET " + assignments +
+                                                      " WHERE " + table().keyColumn + " = ?1"));
         run->bind(1, key);
         int parameter = 1;
         for (const Value& value : values)
@@ -186,8 +187,8 @@ void Dynaset::deleteRow() {
     const qint64 key = m_keys[position];
     connection().prepareToWrite();
     {
-        const StatementRun run(
-            connection().statement("DELETE FROM " + table().sqlName + " WHERE " + table().keyColumn + " = ?1"));
+        const StatementRun run(connection().statement("DELETE FROM " + table().sqlName + " WHERE " +
+                                                      table().keyColumn + " = ?1"));
         run->bind(1, key);
         run->step();
     }

@@ -48,7 +48,8 @@ int findIn(const std::vector<criteria::Column>& columns, QStringView table, QStr
 class SelectCompiler {
 public:
     SelectCompiler(Connection& connection, const criteria::LexedText& text)
-        : m_connection(connection), m_statement(criteria::parseSelect(text)),
+        : m_connection(connection),
+          m_statement(criteria::parseSelect(text)),
           m_plan(std::make_shared<SelectPlan>()) {}
 
     std::shared_ptr<SelectPlan> run() {
@@ -89,7 +90,8 @@ private:
         }
         const qsizetype before = static_cast<qsizetype>(m_plan->columns.size());
         for (std::size_t i = 0; i < m_all.size(); ++i)
-            if (column.name.table.isEmpty() || m_all[i].table.compare(column.name.table, Qt::CaseInsensitive) == 0)
+            if (column.name.table.isEmpty() ||
+                m_all[i].table.compare(column.name.table, Qt::CaseInsensitive) == 0)
                 addColumn(i);
         if (static_cast<qsizetype>(m_plan->columns.size()) == before)
             throw unknownField(column.name.table + u".*"_s);
@@ -101,7 +103,8 @@ private:
     }
 
     static Error unknownField(const QString& name) {
-        return {ErrorNumber::TooFewParameters, u"Too few parameters. Expected 1 (unknown field '%1')."_s.arg(name)};
+        return {ErrorNumber::TooFewParameters,
+                u"Too few parameters. Expected 1 (unknown field '%1')."_s.arg(name)};
     }
 
     [[nodiscard]] int find(const criteria::FieldName& name) const {
@@ -116,7 +119,8 @@ private:
     QByteArray compileWhere() {
         if (m_statement.where == nullptr)
             return {};
-        criteria::resolve(*m_statement.where, m_all, [this](const criteria::FieldName& name) { return find(name); });
+        criteria::resolve(*m_statement.where, m_all,
+                          [this](const criteria::FieldName& name) { return find(name); });
         criteria::Sql sql = criteria::compile(*m_statement.where, m_all, 1);
         m_plan->parameters = std::move(sql.parameters);
         return " WHERE " + sql.text;
@@ -131,8 +135,10 @@ private:
 
     void buildDynaset(const QByteArray& condition) {
         const Table& table = *m_plan->tables.front();
-        m_plan->sql = "SELECT " + table.keyColumn + " FROM " + table.sqlName + condition + " ORDER BY " + table.keyColumn;
-        m_plan->rowSql = "SELECT " + columnList() + " FROM " + table.sqlName + " WHERE " + table.keyColumn + " = ?1";
+        m_plan->sql = "SELECT " + table.keyColumn + " FROM " + table.sqlName + condition + " ORDER BY " +
+                      table.keyColumn;
+        m_plan->rowSql =
+            "SELECT " + columnList() + " FROM " + table.sqlName + " WHERE " + table.keyColumn + " = ?1";
     }
 
     void buildJoin(const QByteArray& condition) {
@@ -146,8 +152,8 @@ private:
             for (std::size_t i = 1; i <= m_plan->columns.size(); ++i)
                 order += (i == 1 ? "" : ", ") + QByteArray::number(static_cast<qulonglong>(i));
         }
-        m_plan->sql = QByteArray(m_statement.distinct ? "SELECT DISTINCT " : "SELECT ") + columnList() + " FROM " +
-                      from + condition + " ORDER BY " + order;
+        m_plan->sql = QByteArray(m_statement.distinct ? "SELECT DISTINCT " : "SELECT ") + columnList() +
+                      " FROM " + from + condition + " ORDER BY " + order;
     }
 
     Connection& m_connection;
@@ -167,23 +173,33 @@ int SelectPlan::findColumn(QStringView name) const {
     return dot < 0 ? UnknownColumn : findIn(columns, name.first(dot), name.sliced(dot + 1));
 }
 
-std::shared_ptr<const FindPlan> SelectPlan::findPlan(const QString& criterion, const criteria::LexedText& text) const {
-    if (const auto known = m_findPlans.find(text.shape); known != m_findPlans.end())
-        return known->second;
-    auto plan = std::make_shared<FindPlan>();
+PlanMemo<FindPlan>::Hit SelectPlan::findPlan(const QString& criterion) const {
+    if (auto hit = m_memo.find(criterion))
+        return std::move(*hit);
     try {
-        plan->tree = criteria::parseCriterion(text);
+        const criteria::LexedText text = criteria::lex(criterion);
+        auto plan = compileFind(text);
+        m_memo.remember(criterion, text, plan);
+        return {std::move(plan), text.literals};
     } catch (const criteria::SyntaxError&) {
         throw findSyntax(criterion);
     }
+}
+
+std::shared_ptr<const FindPlan> SelectPlan::compileFind(const criteria::LexedText& text) const {
+    if (const auto known = m_findPlans.find(text.shape); known != m_findPlans.end())
+        return known->second;
+    auto plan = std::make_shared<FindPlan>();
+    plan->tree = criteria::parseCriterion(text);
     criteria::resolve(plan->tree, columns, [this](const criteria::FieldName& name) {
         const int index = findIn(columns, name.table, name.field);
         if (index == AmbiguousColumn)
             throw ambiguous(name);
         if (index == UnknownColumn)
-            throw Error(ErrorNumber::UnknownFieldName,
-                        u"The database engine does not recognize '%1' as a valid field name or expression."_s.arg(
-                            fullName(name)));
+            throw Error(
+                ErrorNumber::UnknownFieldName,
+                u"The database engine does not recognize '%1' as a valid field name or expression."_s.arg(
+                    fullName(name)));
         return index;
     });
     if (isDynaset) {
@@ -219,14 +235,6 @@ criteria::LexedText lexStatement(const QString& statement) {
         return criteria::lex(statement);
     } catch (const criteria::SyntaxError&) {
         throw querySyntax(statement);
-    }
-}
-
-criteria::LexedText lexCriterion(const QString& criterion) {
-    try {
-        return criteria::lex(criterion);
-    } catch (const criteria::SyntaxError&) {
-        throw findSyntax(criterion);
     }
 }
 

@@ -3,6 +3,7 @@
 // Private to the engine.
 
 #include "Parser.h"
+#include "PlanMemo.h"
 #include "SqlCompiler.h"
 
 #include <QString>
@@ -30,18 +31,20 @@ struct SelectPlan {
     std::vector<Table*> tables;
     std::vector<criteria::Column> columns; ///< of the result, in order
     std::vector<int> fields;               ///< per column: its number in the table's definition
-    bool isDynaset = false; ///< one table: a keyset whose rows are read live
-    QByteArray sql;         ///< dynaset: the keys; join: the rows
-    QByteArray rowSql;      ///< dynaset: the row with the key ?1
+    bool isDynaset = false;                ///< one table: a keyset whose rows are read live
+    QByteArray sql;                        ///< dynaset: the keys; join: the rows
+    QByteArray rowSql;                     ///< dynaset: the row with the key ?1
     std::vector<criteria::Parameter> parameters;
 
     /// Position of a column of the result by name, `field` or `table.field`; -1 unknown, -2 ambiguous.
     [[nodiscard]] int findColumn(QStringView name) const;
-    /// The compiled criterion; errors 3070, 3077, 3079, 3421.
-    [[nodiscard]] std::shared_ptr<const FindPlan> findPlan(const QString& criterion,
-                                                           const criteria::LexedText& text) const;
+    /// The compiled criterion and its literals; errors 3070, 3077, 3079, 3421.
+    [[nodiscard]] PlanMemo<FindPlan>::Hit findPlan(const QString& criterion) const;
 
 private:
+    [[nodiscard]] std::shared_ptr<const FindPlan> compileFind(const criteria::LexedText& text) const;
+
+    mutable PlanMemo<FindPlan> m_memo;
     mutable std::unordered_map<std::u16string, std::shared_ptr<const FindPlan>> m_findPlans; ///< by shape
 };
 
@@ -49,10 +52,9 @@ inline constexpr int UnknownColumn = -1;
 inline constexpr int AmbiguousColumn = -2;
 
 /// Compiles a statement against the tables of the file; errors 3061, 3075, 3078, 3079, 3421.
-[[nodiscard]] std::shared_ptr<const SelectPlan> compileSelect(Connection& connection, const QString& statement,
-                                                              const criteria::LexedText& text);
+[[nodiscard]] std::shared_ptr<const SelectPlan>
+compileSelect(Connection& connection, const QString& statement, const criteria::LexedText& text);
 
-[[nodiscard]] criteria::LexedText lexStatement(const QString& statement);  ///< error 3075
-[[nodiscard]] criteria::LexedText lexCriterion(const QString& criterion); ///< error 3077
+[[nodiscard]] criteria::LexedText lexStatement(const QString& statement); ///< error 3075
 
 } // namespace dao

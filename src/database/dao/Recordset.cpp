@@ -51,14 +51,14 @@ qint64 RecordsetPrivate::lastModified() const {
     noCurrentRecord();
 }
 
-std::unique_ptr<RecordsetPrivate> openCursor(const std::shared_ptr<Connection>& connection, const QString& statement) {
-    criteria::LexedText text = lexStatement(statement);
-    auto plan = connection->selectPlan(statement, text);
+std::unique_ptr<RecordsetPrivate> openCursor(const std::shared_ptr<Connection>& connection,
+                                             const QString& statement) {
+    auto [plan, literals] = connection->selectPlan(statement);
     std::unique_ptr<RecordsetPrivate> cursor;
     if (plan->isDynaset)
-        cursor = std::make_unique<Dynaset>(connection, std::move(plan), std::move(text.literals));
+        cursor = std::make_unique<Dynaset>(connection, std::move(plan), std::move(literals));
     else
-        cursor = std::make_unique<Snapshot>(connection, std::move(plan), std::move(text.literals));
+        cursor = std::make_unique<Snapshot>(connection, std::move(plan), std::move(literals));
     cursor->goToFirst();
     return cursor;
 }

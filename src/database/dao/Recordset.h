@@ -31,8 +31,8 @@ public:
     void Requery();
 
     [[nodiscard]] bool BOF() const;
-    [[nodiscard]] bool EOF_() const;      ///< `EOF`, which the C library has taken
-    [[nodiscard]] bool NoMatch() const;   ///< whether the last Find failed
+    [[nodiscard]] bool EOF_() const;            ///< `EOF`, which the C library has taken
+    [[nodiscard]] bool NoMatch() const;         ///< whether the last Find failed
     [[nodiscard]] int RecordCount() const;      ///< number of keys held
     [[nodiscard]] int AbsolutePosition() const; ///< from 0; -1 without a current row
 
@@ -71,8 +71,8 @@ public:
     /// Names a row for as long as the recordset is open.
     using BookmarkType = qint64;
     [[nodiscard]] BookmarkType Bookmark() const;
-    void setBookmark(BookmarkType bookmark);          ///< 3159 for a row that is not among the keys
-    [[nodiscard]] BookmarkType LastModified() const;  ///< the row that the last Update wrote
+    void setBookmark(BookmarkType bookmark);         ///< 3159 for a row that is not among the keys
+    [[nodiscard]] BookmarkType LastModified() const; ///< the row that the last Update wrote
 
 private:
     friend class Database;

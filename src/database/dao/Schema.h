@@ -14,8 +14,8 @@ enum class DataType : int {
     Text = 10,   ///< at most `Size` UTF-16 units
 };
 
-inline constexpr int dbAutoIncrField = 16;       ///< field attribute: the engine numbers new rows
-inline constexpr int dbRelationDontEnforce = 2;  ///< relation attribute: recorded, not enforced
+inline constexpr int dbAutoIncrField = 16;      ///< field attribute: the engine numbers new rows
+inline constexpr int dbRelationDontEnforce = 2; ///< relation attribute: recorded, not enforced
 
 struct Field {
     QString Name;

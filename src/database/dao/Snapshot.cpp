@@ -4,7 +4,8 @@ namespace dao {
 
 Snapshot::Snapshot(std::shared_ptr<Connection> connection, std::shared_ptr<const SelectPlan> plan,
                    std::vector<Value> literals)
-    : RecordsetPrivate(std::move(connection), std::move(plan)), m_literals(std::move(literals)),
+    : RecordsetPrivate(std::move(connection), std::move(plan)),
+      m_literals(std::move(literals)),
       m_rows(static_cast<int>(this->plan().columns.size())) {
     requery();
 }
@@ -21,9 +22,8 @@ void Snapshot::requery() {
 
 std::optional<std::size_t> Snapshot::find(const QString& criterion, SearchRange range) {
     if (!m_evaluator || criterion != m_criterion) {
-        const criteria::LexedText text = lexCriterion(criterion);
-        auto find = plan().findPlan(criterion, text);
-        m_evaluator.emplace(find->tree, text.literals);
+        auto [find, literals] = plan().findPlan(criterion);
+        m_evaluator.emplace(find->tree, std::move(literals));
         m_find = std::move(find);
         m_criterion = criterion;
     }

@@ -11,12 +11,11 @@ Error sqliteError(int code, const char* message) {
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return {ErrorNumber::CouldNotUpdate,
-                u"The database is currently in use by another program. Nothing was changed; please try again."_s};
-    case SQLITE_READONLY:
-        return {ErrorNumber::ReadOnly, u"Cannot update. The database is read-only."_s};
-    case SQLITE_FULL:
-        return {ErrorNumber::DiskFull, u"The disk is full. Nothing was changed."_s};
+        return {
+            ErrorNumber::CouldNotUpdate,
+            u"The database is currently in use by another program. Nothing was changed; please try again."_s};
+    case SQLITE_READONLY: return {ErrorNumber::ReadOnly, u"Cannot update. The database is read-only."_s};
+    case SQLITE_FULL: return {ErrorNumber::DiskFull, u"The disk is full. Nothing was changed."_s};
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
         return {ErrorNumber::UnrecognizedFormat,
@@ -25,12 +24,12 @@ Error sqliteError(int code, const char* message) {
     case SQLITE_PERM:
     case SQLITE_AUTH:
     case SQLITE_IOERR:
-        return {ErrorNumber::CannotOpenFile, u"The database file cannot be read or written (%1)."_s.arg(detail)};
+        return {ErrorNumber::CannotOpenFile,
+                u"The database file cannot be read or written (%1)."_s.arg(detail)};
     case SQLITE_CONSTRAINT:
         return {ErrorNumber::DuplicateKey,
                 u"The change was not made because it would create duplicate values in an index or key."_s};
-    default:
-        return {ErrorNumber::ObjectInvalid, u"The database reports an error: %1."_s.arg(detail)};
+    default: return {ErrorNumber::ObjectInvalid, u"The database reports an error: %1."_s.arg(detail)};
     }
 }
 

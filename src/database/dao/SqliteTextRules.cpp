@@ -46,10 +46,9 @@ void matchesPattern(sqlite3_context* context, int /*count*/, sqlite3_value** arg
 void registerTextRules(sqlite3* handle) {
     const int collation = sqlite3_create_collation_v2(handle, criteria::FoldedCollation, SQLITE_UTF8, nullptr,
                                                       compareFolded, nullptr);
-    const int function =
-        sqlite3_create_function_v2(handle, criteria::PatternFunction, 2,
-                                   SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, nullptr,
-                                   matchesPattern, nullptr, nullptr, nullptr);
+    const int function = sqlite3_create_function_v2(handle, criteria::PatternFunction, 2,
+                                                    SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY,
+                                                    nullptr, matchesPattern, nullptr, nullptr, nullptr);
     if (collation != SQLITE_OK || function != SQLITE_OK)
         throw sqliteError(handle);
 }
