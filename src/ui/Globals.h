@@ -24,7 +24,9 @@ extern QString RefAehnlicheBedeutung; ///< "Similar meaning for expression in "
 /// Sets UILanguage and the texts above that follow from it. Called once, at the start.
 void setInterfaceLanguage(const QString& language);
 
-[[nodiscard]] inline bool interfaceIsEnglish() { return UILanguage == QLatin1String("En"); }
+[[nodiscard]] inline bool interfaceIsEnglish() {
+    return UILanguage == QLatin1String("En");
+}
 
 /// The one place where a text is chosen by the interface language.
 [[nodiscard]] inline QString uiText(const QString& german, const QString& english) {
