@@ -12,16 +12,16 @@ namespace lingomat {
 /// One message box: what it says and which answers it takes.
 struct Message {
     QMessageBox::Icon icon = QMessageBox::NoIcon;
-    QString title; ///< empty: the product's name
-    QString text;
+    QString title{}; ///< empty: the product's name
+    QString text{};
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
 };
 
 struct FileDialogRequest {
-    QString title;
-    QString filter;    ///< "name (*.ext);;name (*)"
-    QString directory; ///< where it starts; empty: the toolkit's choice
+    QString title{};
+    QString filter{};    ///< "name (*.ext);;name (*)"
+    QString directory{}; ///< where it starts; empty: the toolkit's choice
     bool confirmOverwrite = false;
 };
 
