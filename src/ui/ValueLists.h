@@ -5,6 +5,7 @@
 #include <QCollator>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 class QComboBox;
@@ -25,7 +26,7 @@ public:
     /// Empties the list of a box: "Wortart", "Bereich", "Quelle", "GrammatikalischBox", "FunktionalesBox".
     /// Any other name reports "Error in ClearComboBoxes!" and gives false.
     bool ClearComboBoxes(const QString& box);
-    /// Empties the list of a kind, "Auswahl" among them.
+    /// Empties the list of a kind, "Auswahl" among them. The text in a box stays, here and below.
     void clear(const QString& kind);
     /// Takes one value out, where it stands.
     void remove(const QString& text, const QString& kind);
@@ -35,10 +36,19 @@ public:
     void attach(QComboBox& box, const QString& kind);
 
 private:
+    struct Values {
+        QStringList sorted;
+        QSet<QString> known;
+        QList<QComboBox*> boxes;
+    };
+
+    [[nodiscard]] Values& of(const QString& kind);
+    [[nodiscard]] bool isBefore(const QString& left, const QString& right) const;
+    void forget(const QObject* box);
+
     Prompts& m_prompts;
     QCollator m_order;
-    QHash<QString, QStringList> m_values;
-    QHash<QString, QList<QComboBox*>> m_boxes;
+    QHash<QString, Values> m_kinds;
 };
 
 } // namespace lingomat
