@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QIcon>
 #include <QPixmap>
 #include <QString>
 #include <QTableView>
@@ -8,8 +7,6 @@
 #include <memory>
 
 namespace lingomat {
-
-class FlexGridModel;
 
 /// A grid of texts that is driven through a current cell.
 ///
@@ -48,9 +45,9 @@ public:
     void setColSel(int col);
 
     // Contents.
-    [[nodiscard]] const QString& Text() const;
+    [[nodiscard]] QString Text() const;
     void setText(const QString& text);
-    [[nodiscard]] const QString& TextMatrix(int row, int col) const; ///< any cell, without moving
+    [[nodiscard]] QString TextMatrix(int row, int col) const; ///< any cell, without moving
     void setTextMatrix(int row, int col, const QString& text);
     /// Appends a row; the text's tabs part its cells, from column 0 on.
     void AddItem(const QString& text);
@@ -61,7 +58,8 @@ public:
     [[nodiscard]] int CellPictureAlignment() const;
     void setCellPictureAlignment(int alignment); ///< 4 centres
 
-    // Geometry, in pixels. A width or height of 0 hides the column or row.
+    // Geometry, in pixels. A width or height of 0 hides the column or row, one below 0 is the default. Widths
+    // and heights grow and shrink with the font.
     [[nodiscard]] int DefaultColWidth() const;
     [[nodiscard]] int ColWidth(int col) const;
     void setColWidth(int col, int width);
@@ -70,8 +68,9 @@ public:
     void setRowHeight(int row, int height);
     [[nodiscard]] int ColAlignment(int col) const;
     void setColAlignment(int col, int alignment); ///< 0 or 1 left, 4 centre, 7 right
-    [[nodiscard]] int TopRow() const;
-    void setTopRow(int row);
+    [[nodiscard]] int TopRow() const;             ///< first data row in view
+    void setTopRow(int row);                      ///< as far down as the last rows still fill the view
+    // Place of the current cell within this widget.
     [[nodiscard]] int CellLeft() const;
     [[nodiscard]] int CellTop() const;
     [[nodiscard]] int CellWidth() const;
@@ -92,19 +91,36 @@ public:
     void setAllowUserResizing(bool allowed);
     void setAllowUserResizingRows(bool allowed);
 
-    [[nodiscard]] int MouseCol() const; ///< column under the mouse
-    [[nodiscard]] int MouseRow() const;
+    [[nodiscard]] int MouseCol() const; ///< column under the mouse; the last one where it is right of all
+    [[nodiscard]] int MouseRow() const; ///< row under the mouse; the last one where it is below all
 
     /// Brings the view in line with the contents now.
     void flush();
 
+    void keyboardSearch(const QString& search) override; ///< does nothing: a typed letter moves no cursor
+
 Q_SIGNALS:
-    void EnterCell();
-    void LeaveCell();
-    void SelChange();
+    // The base class's pressed() and clicked() come for cells, pressed() for the margin as well.
+
+    void EnterCell(); ///< the user has moved to another cell, which is the current one now
+    void LeaveCell(); ///< the user is about to leave the current cell
+    void SelChange(); ///< the user has changed the current cell or the selection
     void Scroll();
-    void mouseMoved();                ///< MouseCol and MouseRow tell where
-    void headerClicked(int col);
+    void mouseMoved();           ///< MouseCol and MouseRow tell where
+    void headerClicked(int col); ///< Col has moved there already
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     class Private;
