@@ -12,8 +12,8 @@ namespace lingomat {
 struct SharedState : LanguageFields {
     explicit SharedState(CDBHandler::ErrorReporter reportError) : DBHandler(std::move(reportError)) {}
 
-    QString CurrentDBPath; ///< full path of the open database; empty: none is open
-    QString MarkePath;     ///< picture that marks the current row of a grid
+    QString CurrentDBPath;       ///< full path of the open database; empty: none is open
+    QString MarkePath;           ///< picture that marks the current row of a grid
     bool DBIsEmpty = false;      ///< the database has no entries
     bool DBChanged = false;      ///< another file was just opened or created; ConditionToUI clears it
     bool SelectionValid = false; ///< list and Trainer have something to show
