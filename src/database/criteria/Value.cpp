@@ -27,8 +27,12 @@ qint64 Value::toInteger() const {
         throw Error(ErrorNumber::InvalidUseOfNull, u"Invalid use of Null"_s);
     if (const auto* number = std::get_if<qint64>(&m_data))
         return *number;
-    if (const auto* real = std::get_if<double>(&m_data))
+    if (const auto* real = std::get_if<double>(&m_data)) {
+        constexpr double Beyond = 9223372036854775808.0; // the first that 64 bits cannot hold
+        if (!(*real >= -Beyond && *real < Beyond))
+            throw Error(ErrorNumber::Overflow, u"Overflow"_s);
         return qRound64(*real);
+    }
     bool isNumber = false;
     const qint64 number = std::get<QString>(m_data).trimmed().toLongLong(&isNumber);
     if (!isNumber)

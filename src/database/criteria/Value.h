@@ -24,7 +24,8 @@ public:
     [[nodiscard]] QString toText() const;
     /// As toText(), with a replacement for Null.
     [[nodiscard]] QString toText(const QString& ifNull) const;
-    /// The number, or the number that the text spells. Error 94 for Null, 13 for any other text.
+    /// The number, or the number that the text spells. Error 94 for Null, 13 for any other text, 6 for a
+    /// floating number that no whole one comes near to.
     [[nodiscard]] qint64 toInteger() const;
 
     friend bool operator==(const Value&, const Value&) = default;

@@ -20,7 +20,9 @@ void requireRange(qint64 number) {
 qint64 wholeNumber(const Value& value) {
     try {
         return value.toInteger();
-    } catch (const Error&) {
+    } catch (const Error& error) {
+        if (error.Number() == ErrorNumber::Overflow)
+            throw;
         throw Error(ErrorNumber::DataConversion, u"Data type conversion error."_s);
     }
 }
