@@ -6,12 +6,11 @@
 #include "SampleError.h"
 #include "SampleWriter.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QTemporaryDir>
-
-#include <filesystem>
-#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -49,15 +48,24 @@ void writeDatabase(const QString& path, const SampleKind& kind, const SampleData
     failures.check(path);
 }
 
-std::filesystem::path nativePath(const QString& path) {
-    return std::filesystem::path(path.toStdU16String());
+/// Where a database is written before it goes to its place. Every change is forced to the disk by itself,
+/// some thousands of them, which takes minutes on a slow one; so the folder lies in memory if there is one.
+QString workFolder() {
+    const QFileInfo memory(u"/dev/shm"_s);
+    return memory.isDir() && memory.isWritable() ? memory.filePath() : QDir::tempPath();
 }
 
-void replaceFile(const QString& from, const QString& to) {
-    std::error_code error;
-    std::filesystem::rename(nativePath(from), nativePath(to), error);
-    if (error)
-        throw SampleError(u"%1: %2"_s.arg(to, QString::fromStdString(error.message())));
+/// The target is the whole copy or what it was before.
+void copyFile(const QString& from, const QString& to) {
+    QFile source(from);
+    QSaveFile target(to);
+    if (!source.open(QIODevice::ReadOnly))
+        throw SampleError(u"%1: %2"_s.arg(from, source.errorString()));
+    if (!target.open(QIODevice::WriteOnly))
+        throw SampleError(u"%1: %2"_s.arg(to, target.errorString()));
+    target.write(source.readAll());
+    if (!target.commit())
+        throw SampleError(u"%1: %2"_s.arg(to, target.errorString()));
 }
 
 } // namespace
@@ -71,9 +79,7 @@ const std::array<SampleKind, 2>& sampleKinds() {
 }
 
 void makeSampleFile(const QString& path, const SampleKind& kind, const SampleData& data, QDate today) {
-    // Beside the target, so that the last step is a mere renaming; a run that was killed before leaves
-    // nothing that a later one would trip over.
-    const QTemporaryDir folder(QFileInfo(path).path() + "/samples-XXXXXX"_L1);
+    const QTemporaryDir folder(workFolder() + "/lingomat-samples-XXXXXX"_L1);
     if (!folder.isValid())
         throw SampleError(u"%1: %2"_s.arg(path, folder.errorString()));
     const QString unfinished = folder.filePath(kind.fileName);
@@ -82,7 +88,7 @@ void makeSampleFile(const QString& path, const SampleKind& kind, const SampleDat
     } catch (const dao::Error& error) {
         throw SampleError(u"%1: %2"_s.arg(path, error.Description()));
     }
-    replaceFile(unfinished, path);
+    copyFile(unfinished, path);
 }
 
 } // namespace lingomat
