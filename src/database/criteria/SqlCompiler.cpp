@@ -110,7 +110,7 @@ private:
             // Unknown, not false, for Null.
             sql = "(" + subject + " IS NOT NULL OR NULL)";
         } else if (l.kind == PatternKind::Wildcards) {
-            const QByteArray pattern = parameter(l.pattern, Parameter::Form::AsItIs);
+            const QByteArray pattern = parameter(l.pattern, Parameter::Form::Pattern);
             sql = QByteArray(PatternFunction) + "(" + pattern + ", " + subject + ")";
         } else if (isText(l.subject)) {
             sql = subject + " = " + parameter(l.pattern, Parameter::Form::AsItIs) + " COLLATE " +
@@ -168,7 +168,11 @@ dao::Value plainWholeNumber(const QString& text) {
 
 dao::Value boundValue(const Parameter& parameter, std::span<const dao::Value> literals) {
     const dao::Value& literal = literals[static_cast<std::size_t>(parameter.literal)];
-    return parameter.form == Parameter::Form::WholeNumber ? plainWholeNumber(literal.toText()) : literal;
+    if (parameter.form == Parameter::Form::WholeNumber)
+        return plainWholeNumber(literal.toText());
+    if (parameter.form == Parameter::Form::Pattern)
+        (void)LikePattern(literal.toText());
+    return literal;
 }
 
 } // namespace criteria

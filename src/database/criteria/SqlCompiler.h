@@ -28,6 +28,7 @@ struct Parameter {
     enum class Form {
         AsItIs,
         WholeNumber, ///< see plainWholeNumber()
+        Pattern,     ///< one with wildcards
     };
     int literal;
     Form form;
@@ -46,7 +47,8 @@ inline constexpr const char* PatternFunction = "matches_pattern"; ///< (pattern,
 /// typed gets into the statement.
 [[nodiscard]] Sql compile(const Node& tree, std::span<const Column> columns, int firstParameter);
 
-/// The value to bind for a parameter.
+/// The value to bind for a parameter. Error 93 for an invalid pattern: here it can still be told as such,
+/// and also where there is no row to try it on.
 [[nodiscard]] dao::Value boundValue(const Parameter& parameter, std::span<const dao::Value> literals);
 
 /// The number that a text is the plain decimal form of. Any other text ("017", "1 ") gives the empty text,

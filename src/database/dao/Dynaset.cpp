@@ -66,8 +66,6 @@ void Dynaset::useCriterion(const QString& criterion) {
     if (m_find != nullptr && criterion == m_criterion)
         return;
     auto [find, literals] = plan().findPlan(criterion);
-    // An invalid pattern is told before any row is looked at.
-    const criteria::Evaluator patterns(find->tree, literals);
     m_findValues = boundValues(find->parameters, literals);
     m_find = std::move(find);
     m_criterion = criterion;
