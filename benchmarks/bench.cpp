@@ -1,0 +1,186 @@
+// Measures the program's work beside the same work done with nothing but SQLite, in one run, and prints the
+// figures beside their targets. Ends with 1 when one is missed.
+
+#include "BareSqlite.h"
+#include "BenchProgram.h"
+#include "BigDatabase.h"
+#include "FlexGrid.h"
+#include "Report.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QPushButton>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Repetitions = 5;
+
+/// What the benchmarks share. A second file is the yardstick's own, so that its writing does not make what
+/// the program has in memory invalid.
+struct Bench {
+    QTemporaryDir folder;
+    BareSqlite yardstick{copyOfBigDatabase(folder)};
+    BenchProgram program;
+    bool started = false;
+
+    /// The program, started and with every entry selected.
+    BenchProgram& selected() {
+        if (!started) {
+            started = true;
+            program.start();
+            program.selectAll();
+        }
+        return program;
+    }
+
+    static QString copyOfBigDatabase(const QTemporaryDir& folder) {
+        const QString path = folder.filePath(u"bare.lmt"_s);
+        QFile::copy(bigDatabase(), path);
+        return path;
+    }
+};
+
+Bench* g_bench = nullptr; // the library calls plain functions
+
+QByteArray runStartup(const QString& mode) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QCoreApplication::applicationDirPath() + u"/startup"_s, {mode});
+    if (!process.waitForFinished(-1) || process.exitCode() != 0)
+        qFatal("startup %s failed", qPrintable(mode));
+    return process.readAllStandardOutput();
+}
+
+void bareLoop(benchmark::State& state) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(g_bench->yardstick.readEverything());
+}
+
+void selectionRun(benchmark::State& state) {
+    BenchProgram& program = g_bench->selected();
+    for (auto _ : state)
+        program.selectAll();
+}
+
+void startEmpty(benchmark::State& state) {
+    for (auto _ : state)
+        runStartup(u"empty"_s);
+}
+
+void startProgram(benchmark::State& state) {
+    for (auto _ : state)
+        runStartup(u"main"_s);
+}
+
+/// An entry somewhere in the table, and a score that it has not: what is the same already is not written.
+struct ScoreChange {
+    qint64 key = 1;
+    int score = 0;
+    void next() {
+        key = (key + 7919) % BigDatabaseEntries + 1;
+        score = (score + 1) % 7 + 100;
+    }
+};
+
+void bareScore(benchmark::State& state) {
+    static ScoreChange change;
+    BareSqlite& sqlite = g_bench->yardstick;
+    for (auto _ : state) {
+        change.next();
+        sqlite.changeScore(change.key, change.score);
+    }
+}
+
+void engineScore(benchmark::State& state) {
+    static ScoreChange change;
+    dao::Recordset& entries = g_bench->selected().application().state().DBHandler.RecordsetVokabular;
+    for (auto _ : state) {
+        change.next();
+        entries.FindFirst(u"ID LIKE '%1'"_s.arg(change.key));
+        entries.Edit();
+        entries.setField(u"Score"_s, change.score);
+        entries.Update();
+    }
+}
+
+/// Every column in turn; the time of one.
+void sortColumn(benchmark::State& state) {
+    lingomat::FlexGrid& list = g_bench->selected().application().liste().MSFlexGrid1();
+    int column = 0;
+    for (auto _ : state) {
+        list.setCol(1 + column++ % (list.Cols() - 1));
+        list.Sort();
+        list.flush();
+    }
+}
+
+void shuffle(benchmark::State& state) {
+    lingomat::Trainer& trainer = g_bench->selected().application().trainer();
+    trainer.Reihenfolge_sequentiell = false;
+    trainer.Reihenfolge_shuffle = true;
+    for (auto _ : state)
+        trainer.Command6_Click();
+}
+
+void trainerStep(benchmark::State& state) {
+    lingomat::Trainer& trainer = g_bench->selected().application().trainer();
+    trainer.show();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        trainer.Command3_Click();
+        trainer.repaint();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
+void add(const char* name, void (*function)(benchmark::State&), int iterations) {
+    benchmark::RegisterBenchmark(name, function)
+        ->Repetitions(Repetitions)
+        ->Iterations(iterations)
+        ->UseRealTime();
+}
+
+void printFigures(Report& report) {
+    const auto ms = [&report](const char* name) { return report.milliseconds(name); };
+    std::printf("\n%d entries, median of %d runs\n", BigDatabaseEntries, Repetitions);
+    report.figure("selection into the list / bare loop", ms("selectionRun") / ms("bareLoop"), 3, "x");
+    report.figure("start / (bare loop + empty program)",
+                  ms("startProgram") / (ms("bareLoop") + ms("startEmpty")), 2, "x");
+    report.figure("score: find, edit, update / bare statements", ms("engineScore") / ms("bareScore"), 2, "x");
+    report.figure("sort the list by a column", ms("sortColumn"), 100, "ms");
+    report.figure("shuffle", ms("shuffle"), 150, "ms");
+    report.figure("one step of the Trainer, painted", ms("trainerStep"), 16, "ms");
+    report.figure("memory with the whole list open", runStartup(u"list"_s).trimmed().toDouble() / 1024, 200,
+                  "MiB");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication toolkit(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    Bench bench;
+    g_bench = &bench;
+
+    add("bareLoop", bareLoop, 1);
+    add("startEmpty", startEmpty, 1);
+    add("startProgram", startProgram, 1);
+    add("selectionRun", selectionRun, 1);
+    add("bareScore", bareScore, 40);
+    add("engineScore", engineScore, 40);
+    add("sortColumn", sortColumn, 23);
+    add("shuffle", shuffle, 3);
+    add("trainerStep", trainerStep, 50);
+
+    Report report;
+    benchmark::RunSpecifiedBenchmarks(&report);
+    if (!report.has("trainerStep"))
+        return 0; // a filter left some out
+    printFigures(report);
+    return report.missed() == 0 ? 0 : 1;
+}
