@@ -1,0 +1,101 @@
+#include "TestProgram.h"
+
+#include "Globals.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace lingomat {
+
+TestProgram::TestProgram(QString interfaceLanguage) : language(std::move(interfaceLanguage)) {
+    setInterfaceLanguage(language);
+    LastErrorText.clear();
+    QDir().mkpath(programFolder());
+    QFile::copy(QStringLiteral(LINGOMAT_MARK), programFolder() + "/marke.gif"_L1);
+}
+
+TestProgram::~TestProgram() {
+    end();
+    setInterfaceLanguage(u"En"_s);
+}
+
+QString TestProgram::sample() const {
+    return programFolder() + (language == u"En"_s ? "/Example.lmt"_L1 : "/ExampleGerman.lmt"_L1);
+}
+
+void TestProgram::installSample() {
+    writeDatabase(sample(),
+                  {.lang2 = language == u"En"_s ? u"Englisch"_s : u"Spanisch"_s, .entries = someEntries()});
+}
+
+void TestProgram::rememberDatabase(const QString& path) {
+    SettingsStore(settingsFolder()).SaveSetting(AppName(), u"Parameters"_s, u"RecentDB"_s, path);
+}
+
+QString TestProgram::setting(const char* section, const char* key) const {
+    return SettingsStore(settingsFolder())
+        .GetSetting(AppName(), QString::fromLatin1(section), QString::fromLatin1(key));
+}
+
+Application& TestProgram::make() {
+    end();
+    Prompts& given = promptsInPlace ? *promptsInPlace : static_cast<Prompts&>(prompts);
+    m_application = std::make_unique<Application>(Environment{.prompts = given,
+                                                              .random = random,
+                                                              .today = [this] { return today; },
+                                                              .workArea = [this] { return workArea; },
+                                                              .programFolder = programFolder(),
+                                                              .settingsFolder = settingsFolder(),
+                                                              .language = language});
+    return *m_application;
+}
+
+Application& TestProgram::start() {
+    Application& application = make();
+    application.start();
+    const bool isUp = QTest::qWaitFor(
+        [&application] { return application.form1().isVisible() && !application.splash().isVisible(); });
+    if (!isUp)
+        throw std::runtime_error("the main window did not come up");
+    return application;
+}
+
+Application& TestProgram::startWithDatabase() {
+    const QString file = path(u"vocab.lmt"_s);
+    writeDatabase(file, {.entries = someEntries()});
+    rememberDatabase(file);
+    return start();
+}
+
+void TestProgram::end() {
+    m_application.reset();
+}
+
+QString TestProgram::label(const char* name) {
+    return child<QLabel>(app().form1(), name).text();
+}
+
+bool TestProgram::isEnabled(const char* control) {
+    auto& object = child<QObject>(app().form1(), control);
+    if (const auto* action = qobject_cast<QAction*>(&object))
+        return action->isEnabled();
+    return static_cast<QWidget&>(object).isEnabled();
+}
+
+void TestProgram::click(const char* button) {
+    child<QPushButton>(app().form1(), button).click();
+}
+
+void TestProgram::choose(const char* entry) {
+    child<QAction>(app().form1(), entry).trigger();
+}
+
+} // namespace lingomat
