@@ -143,6 +143,8 @@ void Form2::fillList(const QString& criterion) {
     Progress& progress = m_context.progress;
     FlexGrid& grid = m_liste.MSFlexGrid1();
     const QString label = uiText(u"Anzahl Vokabeln: "_s, u"Number of entries: "_s);
+    // Three look-ups a row: without this each of them would lock the file for itself.
+    const dao::SteadyReading reading(m_context.state.DBHandler.Database);
 
     grid.AddItem({});
     addRow(1, false);
