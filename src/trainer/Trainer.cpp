@@ -1,7 +1,5 @@
 #include "Trainer.h"
 
-#include "FlexGrid.h"
-
 #include <QEvent>
 
 namespace lingomat {
@@ -49,18 +47,6 @@ bool Trainer::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
         Form_Activate();
     return isHandled;
-}
-
-void Trainer::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        fitVokabelnGrid();
-}
-
-bool Trainer::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_grid->viewport() && event->type() == QEvent::Resize)
-        fitVokabelnGrid();
-    return QMainWindow::eventFilter(watched, event);
 }
 
 void Trainer::Command4_Click() {

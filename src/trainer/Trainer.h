@@ -107,15 +107,21 @@ private:
 
     // Layout.
     void buildWidgets();
-    [[nodiscard]] QPushButton* newButton(QLatin1StringView name, QLatin1StringView iconName);
+    [[nodiscard]] QPushButton* newButton(QLatin1StringView name, const QIcon& icon);
     void buildMenus();
     [[nodiscard]] QAction* newEntry(QMenu& menu, QLatin1StringView name, const QKeySequence& key);
     [[nodiscard]] QAction* newChoice(QMenu& menu, QActionGroup& group, QLatin1StringView name);
     void buildStatusBar();
     void connectEvents();
+
+    // VokabelnGrid: fonts and sizes follow the form's font and the room there is.
     void buildVokabelnGrid();
-    void fitVokabelnGrid(); ///< fonts and sizes, by the form's font and the room there is
-    void fitRow(GridRow row, const QFont& font, int height);
+    void fitToFont();
+    void fitVokabelnGrid();
+    void fitExpression(GridRow row);
+    void setExpression(GridRow row, const QString& text);
+    void followDraggedBorder();
+    [[nodiscard]] int sharedHeight() const; ///< room of question and solution together
 
     // Sequence.
     void shuffle();
@@ -138,7 +144,10 @@ private:
     FormContext& m_context;
     Liste& m_liste;
 
-    FlexGrid* m_grid = nullptr;
+    FlexGrid* m_grid = nullptr; ///< VokabelnGrid
+    int m_captionHeight = 0;    ///< of the rows with the languages
+    int m_questionHeight = 0;
+    double m_questionShare = 0.5; ///< of the room that question and solution share
     QProgressBar* m_progressBar = nullptr;
     QPushButton* m_restart = nullptr;
     QPushButton* m_close = nullptr;

@@ -7,7 +7,6 @@
 #include <QActionGroup>
 #include <QBoxLayout>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -17,8 +16,6 @@
 #include <QShortcut>
 #include <QStatusBar>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -26,9 +23,9 @@ namespace lingomat {
 namespace {
 
 constexpr QSize StartSize(720, 440);
-/// The expressions are set twice as large as the language names above them.
-constexpr qreal ExpressionScale = 2.0;
-constexpr int CaptionMargin = 3;
+// Pixels, in the status bar.
+constexpr int PanelIndent = 6;
+constexpr int PanelGap = 24;
 
 QMenu* addMenu(QMenuBar& bar, const QString& name) {
     auto* menu = new QMenu(&bar);
@@ -39,10 +36,10 @@ QMenu* addMenu(QMenuBar& bar, const QString& name) {
 
 } // namespace
 
-QPushButton* Trainer::newButton(QLatin1StringView name, QLatin1StringView iconName) {
+QPushButton* Trainer::newButton(QLatin1StringView name, const QIcon& icon) {
     auto* button = new QPushButton(centralWidget());
     button->setObjectName(name);
-    button->setIcon(icon(iconName));
+    button->setIcon(icon);
     button->setAutoDefault(true);
     return button;
 }
@@ -62,12 +59,12 @@ void Trainer::buildWidgets() {
     keepsRoom.setRetainSizeWhenHidden(true);
     m_progressBar->setSizePolicy(keepsRoom);
 
-    m_first.button = newButton("back"_L1, "first"_L1);
-    m_back.button = newButton("Command1"_L1, "previous"_L1);
-    m_step.button = newButton("Command3"_L1, "step"_L1);
-    m_forward.button = newButton("Command2"_L1, "next"_L1);
-    m_last.button = newButton("ToEnd"_L1, "last"_L1);
-    m_restart = newButton("Command6"_L1, "restart"_L1);
+    m_first.button = newButton("back"_L1, icon("first"_L1));
+    m_back.button = newButton("Command1"_L1, icon("previous"_L1));
+    m_step.button = newButton("Command3"_L1, icon("step"_L1));
+    m_forward.button = newButton("Command2"_L1, icon("next"_L1));
+    m_last.button = newButton("ToEnd"_L1, icon("last"_L1));
+    m_restart = newButton("Command6"_L1, icon("restart"_L1));
     m_close = newButton("Command4"_L1, {});
 
     auto* buttons = new QHBoxLayout;
@@ -136,6 +133,8 @@ void Trainer::buildStatusBar() {
         m_panels[panel]->setObjectName(u"StatusBar1_Panel%1"_s.arg(panel + 1));
         statusBar()->addWidget(m_panels[panel]);
     }
+    m_panels[PanelEntries]->setContentsMargins(0, 0, PanelGap, 0);
+    m_panels[PanelEntriesLabel]->setContentsMargins(PanelIndent, 0, 0, 0);
 }
 
 void Trainer::connectEvents() {
@@ -166,52 +165,6 @@ void Trainer::connectEvents() {
         shortcut->setContext(Qt::WidgetShortcut);
         connect(shortcut, &QShortcut::activated, this, &Trainer::Command3_Click);
     }
-}
-
-void Trainer::buildVokabelnGrid() {
-    m_grid->setRows(GridRowCount);
-    m_grid->setCols(1);
-    m_grid->setFixedRows(0);
-    m_grid->setFixedCols(0);
-    m_grid->setAllowUserResizingRows(true);
-    m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_grid->setCol(0);
-    for (const int row : {TopLanguageRow, OtherLanguageRow}) {
-        m_grid->setRow(row);
-        m_grid->setCellBackgroundRole(QPalette::Button);
-        m_grid->setCellAlignment(1);
-    }
-    for (const int row : {QuestionRow, SolutionRow}) {
-        m_grid->setRow(row);
-        m_grid->setCellAlignment(4);
-    }
-    fitVokabelnGrid();
-    m_grid->viewport()->installEventFilter(this);
-}
-
-void Trainer::fitVokabelnGrid() {
-    QFont caption(u"Arial"_s);
-    caption.setPointSizeF(font().pointSizeF());
-    caption.setItalic(true);
-    QFont expression(u"Arial"_s);
-    expression.setPointSizeF(font().pointSizeF() * ExpressionScale);
-    expression.setBold(true);
-    const int captionHeight = QFontMetrics(caption).height() + 2 * CaptionMargin;
-    const int shared = m_grid->viewport()->height() - 2 * captionHeight;
-    const int questionHeight = shared / 2;
-    fitRow(TopLanguageRow, caption, captionHeight);
-    fitRow(QuestionRow, expression, questionHeight);
-    fitRow(OtherLanguageRow, caption, captionHeight);
-    fitRow(SolutionRow, expression, shared - questionHeight);
-    m_grid->setColWidth(0, m_grid->viewport()->width());
-    m_grid->setRow(QuestionRow);
-}
-
-void Trainer::fitRow(GridRow row, const QFont& font, int height) {
-    m_grid->setRow(row);
-    m_grid->setCellFont(font);
-    m_grid->setRowHeight(row, std::max(height, QFontMetrics(font).height()));
 }
 
 } // namespace lingomat

@@ -76,8 +76,8 @@ void Trainer::chooseLanguage(bool Trainer::*language) {
 
 void Trainer::InvertVokabelnGrid() {
     const QString question = m_grid->TextMatrix(QuestionRow, 0);
-    m_grid->setTextMatrix(QuestionRow, 0, m_grid->TextMatrix(SolutionRow, 0));
-    m_grid->setTextMatrix(SolutionRow, 0, question);
+    setExpression(QuestionRow, m_grid->TextMatrix(SolutionRow, 0));
+    setExpression(SolutionRow, question);
 }
 
 } // namespace lingomat

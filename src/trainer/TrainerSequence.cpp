@@ -53,10 +53,7 @@ void Trainer::shuffle() {
     progress.showNow();
     Sequenz = shuffledEntries(
         AnzahlEintraege, [this] { return m_context.random.next(); },
-        [&progress](int place) {
-            progress.setValue(place);
-            progress.refresh();
-        });
+        [&progress](int place) { progress.setValue(place); });
     OptionsToUI();
     RowPositionToUI();
 }
@@ -198,8 +195,8 @@ void Trainer::ZeigeVokabel(int row) {
 }
 
 void Trainer::clearDisplay() {
-    m_grid->setTextMatrix(QuestionRow, 0, {});
-    m_grid->setTextMatrix(SolutionRow, 0, {});
+    setExpression(QuestionRow, {});
+    setExpression(SolutionRow, {});
     m_progressBar->setRange(0, std::max<int>(AnzahlEintraege, 1));
     m_progressBar->setValue(0);
 }
@@ -209,11 +206,11 @@ void Trainer::showEntry(int row) {
     const QString language1 = entries.TextMatrix(row, Liste::ColSprache1);
     const QString language2 = entries.TextMatrix(row, Liste::ColSprache2);
     entries.setRow(row);
-    m_grid->setTextMatrix(QuestionRow, 0, Lang1Zuerst ? language1 : language2);
+    setExpression(QuestionRow, Lang1Zuerst ? language1 : language2);
     if (ZeigeLoesung == 1)
-        m_grid->setTextMatrix(SolutionRow, 0, Lang1Zuerst ? language2 : language1);
+        setExpression(SolutionRow, Lang1Zuerst ? language2 : language1);
     else
-        m_grid->setTextMatrix(SolutionRow, 0, {});
+        setExpression(SolutionRow, {});
     if (Reihenfolge_random)
         return;
     const int place = Selbsttest && Schleife ? RundenPosition : Position;

@@ -6,7 +6,6 @@
 
 #include <QLabel>
 #include <QProgressBar>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -47,9 +46,6 @@ constexpr FormText texts[] = {
 
 void Trainer::SetUserInterfaceProperties() {
     applyTexts(*this, texts);
-    // A button without a caption is known by its tip.
-    for (const Command& command : {m_step, m_back, m_forward, m_first, m_last})
-        command.button->setAccessibleName(command.button->toolTip());
     m_grid->setAccessibleName(uiText(u"Frage und Lösung"_s, u"Question and solution"_s));
     m_progressBar->setAccessibleName(uiText(u"Fortschritt"_s, u"Progress"_s));
     m_panels[PanelEntries]->setAccessibleName(m_panels[PanelEntriesLabel]->text());

@@ -196,6 +196,83 @@ TEST(Form, QuestionAndSolutionShareTheRoom) {
     }
 }
 
+TEST(Form, ADraggedBorderSharesTheRoomOutAnewAndStaysWithTheWindow) {
+    TrainingBench bench(3);
+    bench.trainer.resize(600, 500);
+    bench.trainer.show();
+    QApplication::processEvents();
+    const FlexGrid& grid = bench.grid;
+    const int before = grid.RowHeight(1);
+    const int captionHeight = grid.RowHeight(0);
+
+    const auto drag = [&grid](int fromY, int distance) {
+        QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, {20, fromY});
+        QTest::mouseMove(grid.viewport(), {20, fromY + distance});
+        QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, {20, fromY + distance});
+        QApplication::processEvents();
+    };
+    const auto expectFilled = [&] {
+        EXPECT_EQ(grid.RowHeight(0), captionHeight);
+        EXPECT_EQ(grid.RowHeight(2), captionHeight);
+        EXPECT_EQ(2 * captionHeight + grid.RowHeight(1) + grid.RowHeight(3), grid.viewport()->height());
+    };
+    drag(captionHeight + before, -40); // the lower border of the question
+    EXPECT_NEAR(grid.RowHeight(1), before - 40, 2);
+    expectFilled();
+    drag(2 * captionHeight + grid.RowHeight(1), 20); // that of the name below it
+    EXPECT_NEAR(grid.RowHeight(1), before - 20, 3);
+    expectFilled();
+
+    const double share = static_cast<double>(grid.RowHeight(1)) / (grid.RowHeight(1) + grid.RowHeight(3));
+    bench.trainer.resize(600, 700);
+    QApplication::processEvents();
+    EXPECT_NEAR(static_cast<double>(grid.RowHeight(1)) / (grid.RowHeight(1) + grid.RowHeight(3)), share,
+                0.01);
+    expectFilled();
+
+    drag(captionHeight + grid.RowHeight(1), 2000); // neither of the two goes away
+    EXPECT_GT(grid.RowHeight(3), captionHeight);
+    expectFilled();
+}
+
+TEST(Form, ALargerFontTakesTheDisplayAlong) {
+    TrainingBench bench(3);
+    bench.trainer.resize(800, 570);
+    bench.trainer.show();
+    bench.step();
+    QApplication::processEvents();
+    bench.grid.setRow(1);
+    const qreal before = bench.grid.CellFont().pointSizeF();
+    const int captionHeight = bench.grid.RowHeight(0);
+
+    QFont larger = bench.trainer.font();
+    larger.setPointSizeF(larger.pointSizeF() * 2);
+    bench.trainer.setFont(larger);
+    QApplication::processEvents();
+    EXPECT_NEAR(bench.grid.CellFont().pointSizeF(), 2 * before, 0.5);
+    EXPECT_GT(bench.grid.RowHeight(0), captionHeight);
+    EXPECT_NEAR(bench.grid.RowHeight(1), bench.grid.RowHeight(3), 1);
+    EXPECT_EQ(bench.grid.RowHeight(0) * 2 + bench.grid.RowHeight(1) + bench.grid.RowHeight(3),
+              bench.grid.viewport()->height());
+    EXPECT_LE(bench.trainer.minimumSizeHint().width(), 800);
+    EXPECT_LE(bench.trainer.minimumSizeHint().height(), 600);
+}
+
+TEST(Form, ALongExpressionIsSetSmallerSoThatAllOfItIsSeen) {
+    TrainingBench bench(1);
+    FlexGrid& rows = bench.list.MSFlexGrid1();
+    rows.setTextMatrix(1, Liste::ColSprache1, u"eine sehr lange Wendung "_s.repeated(15));
+    bench.trainer.resize(500, 300);
+    bench.trainer.show();
+    QApplication::processEvents();
+    bench.step();
+    bench.step();
+    const qreal question = bench.grid.CellFont().pointSizeF();
+    bench.grid.setRow(3);
+    EXPECT_LT(question, bench.grid.CellFont().pointSizeF());
+    EXPECT_EQ(bench.question(), rows.TextMatrix(1, Liste::ColSprache1));
+}
+
 TEST(Form, FitsASmallScreen) {
     TrainingBench bench(3);
     const QSize smallest = bench.trainer.minimumSizeHint();
