@@ -51,7 +51,9 @@ void Progress::setMaximum(int maximum) {
 }
 
 void Progress::setValue(int value) {
+    m_bar->setUpdatesEnabled(false); // it would paint itself at every change instead of at the next refresh
     m_bar->setValue(std::clamp(value, minimum(), maximum()));
+    m_bar->setUpdatesEnabled(true);
     refresh();
 }
 
