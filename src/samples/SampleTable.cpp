@@ -8,6 +8,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
