@@ -1,0 +1,238 @@
+// Tests, screen readers and scripts find windows and controls by their names.
+
+#include "TestProgram.h"
+
+#include "FlexGrid.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QSlider>
+#include <QTabBar>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace lingomat {
+namespace {
+
+struct WindowNames {
+    const char* window;
+    std::vector<const char*> controls;
+};
+
+const std::vector<WindowNames>& windows() {
+    static const std::vector<WindowNames> all{
+        {"frmSplash", {"Label2", "ProgressBar1", "labStatus", "Timer1"}},
+        {"Form1",
+         {"DBAnzeige", "Lang1Label", "Lang2Label", "AnzahlLabel", "Command1", "Grid", "Command2", "Command4",
+          "Menu_Datei", "Datei_Open", "Datei_Beispiel", "Menu_Datei_Beenden", "Menu_Ansicht",
+          "Menu_Ansicht_Auswahl", "Menu_Auswahl_Liste", "Menu_Ansicht_Vokabeltrainer"}},
+        {"Liste",
+         {"MSFlexGrid1", "Command1", "mnFile", "mnSchließen", "mnAnsicht", "mnSpalten", "mnAnsichtWortart",
+          "mnAnsichtGrammatikalisch", "mnAnsichtFunktional", "mnAnsichtBereich", "mnAnsichtBeispielsatz",
+          "mnAnsichtZusatzinfo", "mnAnsichtQuelle", "mnAnsichtEingabedatum", "mnAnsichtAenderungsdatum",
+          "mnAnsichtScore"}},
+        {"Trainer",
+         {"VokabelnGrid", "ProgressBar1", "Command1", "Command2", "Command3", "Command4", "Command6", "back",
+          "ToEnd", "StatusBar1", "menNeustart", "menClose", "menStep", "menEinsWeiter", "menEinsZurueck",
+          "menAnfangSequenz", "menEndeSequenz"}},
+        {"Form2",
+         {"Command1",
+          "Command2",
+          "Command3",
+          "Command4",
+          "TabStrip1",
+          "tbsOptions",
+          "StatusBar1",
+          "frmListboxes",
+          "cmdAdd",
+          "cmdRemove",
+          "cmdAddAll",
+          "cmdRemoveAll",
+          "lstWortartLinks",
+          "lstWortartRechts",
+          "lstBereichLinks",
+          "lstBereichRechts",
+          "lstQuelleLinks",
+          "lstQuelleRechts",
+          "lstGrammatikalischLinks",
+          "lstGrammatikalischRechts",
+          "lstFunktionalLinks",
+          "lstFunktionalRechts",
+          "lstReferenzenLinks",
+          "lstReferenzenRechts",
+          "chkRefOption1",
+          "chkRefOption2",
+          "WortartBox",
+          "BereichBox",
+          "QuelleBox",
+          "Lang1Check",
+          "Lang1Prefix",
+          "Lang1Main",
+          "Lang1Suffix",
+          "Lang1Kommentar",
+          "Lang2Check",
+          "Lang2Prefix",
+          "Lang2Main",
+          "Lang2Suffix",
+          "Lang2Kommentar",
+          "Beispielsatz",
+          "Zusatzinfo",
+          "MinScore",
+          "MaxScore",
+          "MinScoreSlider",
+          "MaxScoreSlider",
+          "txtEingabeVonTag",
+          "txtEingabeVonMonat",
+          "txtEingabeVonJahr",
+          "txtEingabeBisTag",
+          "txtEingabeBisMonat",
+          "txtEingabeBisJahr",
+          "txtAenderungVonTag",
+          "txtAenderungVonMonat",
+          "txtAenderungVonJahr",
+          "txtAenderungBisTag",
+          "txtAenderungBisMonat",
+          "txtAenderungBisJahr",
+          "mnSuchen",
+          "mnSelectAll",
+          "mnClose",
+          "mnQuelle",
+          "mnBereich",
+          "mnWortart",
+          "mnFehlerscore",
+          "mnGrammatikalisch",
+          "mnFunktional",
+          "mnWortbestandteile",
+          "mnRelationen",
+          "mnBeispielsatz",
+          "mnEingabedatum",
+          "mnChangeDatum",
+          "mnZusatzinfo"}},
+        {"Progress", {"ProgressBar1", "txtStatus"}},
+    };
+    return all;
+}
+
+QWidget* windowNamed(const QString& name) {
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (QWidget* window : all) {
+        if (window->objectName() == name)
+            return window;
+    }
+    return nullptr;
+}
+
+/// The parts that a control of the toolkit is made of are not the program's.
+bool isPartOfAControl(const QWidget& widget) {
+    if (widget.objectName().startsWith(u"qt_"_s) || qobject_cast<const QScrollBar*>(&widget))
+        return true;
+    for (const QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {
+        if (qobject_cast<const QComboBox*>(above) || qobject_cast<const QMenuBar*>(above) ||
+            qobject_cast<const QAbstractItemView*>(above) || qobject_cast<const QTabBar*>(above) ||
+            qobject_cast<const QLineEdit*>(above))
+            return true;
+    }
+    return false;
+}
+
+bool isControl(const QWidget& widget) {
+    return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
+           qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget) ||
+           qobject_cast<const QAbstractSlider*>(&widget) || qobject_cast<const QTabBar*>(&widget) ||
+           qobject_cast<const QProgressBar*>(&widget) || qobject_cast<const QLabel*>(&widget);
+}
+
+bool speaks(const QWidget& widget) {
+    if (!widget.accessibleName().isEmpty())
+        return true;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return !button->text().isEmpty();
+    if (qobject_cast<const QLabel*>(&widget))
+        return true;
+    const QList<QLabel*> labels = widget.window()->findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&widget](const QLabel* label) { return label->buddy() == &widget; });
+}
+
+class Names : public testing::Test {
+protected:
+    Names() { program.startWithDatabase(); }
+
+    template <typename Check>
+    void forEachControl(Check&& check) {
+        for (const WindowNames& names : windows()) {
+            const QWidget* window = windowNamed(QString::fromUtf8(names.window));
+            ASSERT_NE(window, nullptr) << names.window;
+            const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+            for (const QWidget* widget : widgets) {
+                if (isControl(*widget) && !isPartOfAControl(*widget))
+                    check(*window, *widget);
+            }
+        }
+    }
+
+    TestProgram program;
+};
+
+TEST_F(Names, EveryPrescribedControlIsThere) {
+    for (const WindowNames& names : windows()) {
+        const QWidget* window = windowNamed(QString::fromUtf8(names.window));
+        ASSERT_NE(window, nullptr) << names.window;
+        for (const char* control : names.controls) {
+            const QList<QObject*> found = window->findChildren<QObject*>(QString::fromUtf8(control));
+            EXPECT_EQ(found.size(), 1) << names.window << '.' << control;
+        }
+    }
+}
+
+TEST_F(Names, EveryControlHasAName) {
+    forEachControl([](const QWidget& window, const QWidget& control) {
+        EXPECT_FALSE(control.objectName().isEmpty())
+            << "a " << control.metaObject()->className() << " of " << window.objectName().toStdString();
+    });
+}
+
+TEST_F(Names, EveryControlSaysWhatItIs) {
+    forEachControl([](const QWidget& window, const QWidget& control) {
+        EXPECT_TRUE(speaks(control)) << window.objectName().toStdString() << '.'
+                                     << control.objectName().toStdString();
+    });
+}
+
+TEST_F(Names, EveryMenuEntryHasANameAndACaption) {
+    for (const WindowNames& names : windows()) {
+        const QWidget* window = windowNamed(QString::fromUtf8(names.window));
+        ASSERT_NE(window, nullptr) << names.window;
+        const QList<QMenu*> menus = window->findChildren<QMenu*>();
+        for (const QMenu* menu : menus) {
+            const QList<QAction*> entries = menu->actions();
+            for (const QAction* entry : entries) {
+                if (entry->isSeparator())
+                    continue;
+                const QString name = entry->menu() ? entry->menu()->objectName() : entry->objectName();
+                EXPECT_FALSE(name.isEmpty()) << names.window << ": " << entry->text().toStdString();
+                EXPECT_FALSE(entry->text().isEmpty()) << names.window << '.' << name.toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(Names, WhatIsNotBuiltYetIsAbsent) {
+    for (const char* name : {"Menu_Datei_Neu", "Datei_Drucken", "Sonderzeichen", "Optionen", "mnuHelpInhalt",
+                             "mnuHelpSuchen", "mnuHelpInfo", "mnWeb", "Label1"})
+        EXPECT_FALSE(hasChild(program.app().form1(), name)) << name;
+}
+
+} // namespace
+} // namespace lingomat
