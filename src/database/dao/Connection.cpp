@@ -25,15 +25,27 @@ void configureLibrary() {
     });
 }
 
+Error damagedFile(const QString& path) {
+    return {ErrorNumber::UnrecognizedFormat,
+            u"Unrecognized database format: the file '%1' is damaged."_s.arg(path)};
+}
+
 } // namespace
 
 Connection::Connection(const QString& path, Mode mode) : m_path(path) {
-    open(mode);
-    if (mode == Mode::Create)
-        createCatalogue();
-    else
-        checkFormat();
-    readCatalogue();
+    try {
+        open(mode);
+        if (mode == Mode::Create)
+            createCatalogue();
+        else
+            checkFormat();
+        readCatalogue();
+    } catch (const Error& error) {
+        if (error.Number() == ErrorNumber::CouldNotUpdate)
+            throw Error(ErrorNumber::CannotOpenFile,
+                        u"Cannot open the file '%1'. It is in use by another program."_s.arg(m_path));
+        throw;
+    }
 }
 
 void Connection::open(Mode mode) {
@@ -144,31 +156,32 @@ PlanMemo<SelectPlan>::Hit Connection::selectPlan(const QString& statement) {
 }
 
 void Connection::checkFormat() {
-    try {
-        Statement& application = statement("PRAGMA application_id");
-        const StatementRun run(application);
-        if (!run->step() || run->integer(0) != ApplicationId)
-            throw Error(ErrorNumber::UnrecognizedFormat, unrecognizedFormat(m_path));
-        Statement& layout = statement("PRAGMA user_version");
-        const StatementRun layoutRun(layout);
-        if (!layoutRun->step() || layoutRun->integer(0) != LayoutVersion)
-            throw Error(ErrorNumber::UnrecognizedFormat,
-                        u"The file '%1' was made by a later version of the program."_s.arg(m_path));
-        if (QFileInfo(m_path).size() <= CheapCheckBytes)
-            checkIntegrity();
-    } catch (const Error& error) {
-        if (error.Number() == ErrorNumber::CouldNotUpdate)
-            throw Error(ErrorNumber::CannotOpenFile,
-                        u"Cannot open the file '%1'. It is in use by another program."_s.arg(m_path));
-        throw;
-    }
+    Statement& application = statement("PRAGMA application_id");
+    const StatementRun run(application);
+    if (!run->step() || run->integer(0) != ApplicationId)
+        throw Error(ErrorNumber::UnrecognizedFormat, unrecognizedFormat(m_path));
+    Statement& layout = statement("PRAGMA user_version");
+    const StatementRun layoutRun(layout);
+    if (!layoutRun->step() || layoutRun->integer(0) != LayoutVersion)
+        throw Error(ErrorNumber::UnrecognizedFormat,
+                    u"The file '%1' was made by a later version of the program."_s.arg(m_path));
+    checkWholePages();
+    if (QFileInfo(m_path).size() <= CheapCheckBytes)
+        checkIntegrity();
+}
+
+/// SQLite reads what is missing of a last page as zeros, which may be the end of a text.
+void Connection::checkWholePages() {
+    Statement& pageSize = statement("PRAGMA page_size");
+    const StatementRun run(pageSize);
+    if (!run->step() || QFileInfo(m_path).size() % run->integer(0) != 0)
+        throw damagedFile(m_path);
 }
 
 void Connection::checkIntegrity() {
     Statement check(m_handle.get(), "PRAGMA quick_check(1)");
     if (!check.step() || check.text(0) != u"ok"_s)
-        throw Error(ErrorNumber::UnrecognizedFormat,
-                    u"Unrecognized database format: the file '%1' is damaged."_s.arg(m_path));
+        throw damagedFile(m_path);
 }
 
 QString unrecognizedFormat(const QString& path) {

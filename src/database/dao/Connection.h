@@ -74,6 +74,7 @@ private:
     void configure();
     void createCatalogue();
     void checkFormat();
+    void checkWholePages();
     void checkIntegrity();
     void readCatalogue();
 
