@@ -96,7 +96,7 @@ void Recordset::Requery() {
 }
 
 bool Recordset::BOF() const {
-    return d().place == Place::Before || m_d->count() == 0;
+    return d().place == Place::Before || (m_d->place != Place::Hole && m_d->count() == 0);
 }
 
 bool Recordset::EOF_() const {
@@ -131,7 +131,7 @@ void Recordset::MoveLast() {
 
 void Recordset::MoveNext() {
     d().leaveRow();
-    if (m_d->place == Place::Behind)
+    if (EOF_())
         noCurrentRecord();
     std::size_t next = 0;
     if (m_d->place == Place::Row)
@@ -146,7 +146,7 @@ void Recordset::MoveNext() {
 
 void Recordset::MovePrevious() {
     d().leaveRow();
-    if (m_d->place == Place::Before)
+    if (BOF())
         noCurrentRecord();
     const std::size_t end = m_d->place == Place::Behind ? m_d->count() : m_d->position;
     if (end > 0)
