@@ -3,6 +3,8 @@
 #include "Connection.h"
 #include "EngineError.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace dao {
@@ -57,7 +59,9 @@ public:
         for (const criteria::SelectColumn& column : m_statement.columns)
             addColumn(column);
         const bool allColumns = m_statement.columns.size() == 1 && m_statement.columns.front().all;
-        m_plan->isDynaset = m_plan->tables.size() == 1 && (allColumns || !m_statement.distinct);
+        // Rows that hold their key differ anyhow: DISTINCT adds nothing.
+        const bool plainRows = !m_statement.distinct || (allColumns && m_plan->tables.front()->keyIsField);
+        m_plan->isDynaset = m_plan->tables.size() == 1 && plainRows;
         const QByteArray condition = compileWhere();
         if (m_plan->isDynaset)
             buildDynaset(condition);
@@ -73,6 +77,8 @@ private:
             if (table == nullptr)
                 throw Error(ErrorNumber::TableNotFound,
                             u"The database engine cannot find the input table or query '%1'."_s.arg(name));
+            if (std::find(m_plan->tables.begin(), m_plan->tables.end(), table) != m_plan->tables.end())
+                throw ambiguous({{}, name});
             m_plan->tables.push_back(table);
             for (int i = 0; i < table->definition.Fields.size(); ++i) {
                 const Field& field = table->definition.Fields[i];
@@ -170,7 +176,7 @@ int SelectPlan::findColumn(QStringView name) const {
     if (plain != UnknownColumn)
         return plain;
     const qsizetype dot = name.indexOf(u'.');
-    return dot < 0 ? UnknownColumn : findIn(columns, name.first(dot), name.sliced(dot + 1));
+    return dot <= 0 ? UnknownColumn : findIn(columns, name.first(dot), name.sliced(dot + 1));
 }
 
 PlanMemo<FindPlan>::Hit SelectPlan::findPlan(const QString& criterion) const {
