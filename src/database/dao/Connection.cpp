@@ -111,14 +111,17 @@ void Connection::execute(const QByteArray& sql) {
 
 void Connection::beginReading() {
     requireOpen();
-    if (m_readers == 0)
+    if (m_readers == 0) {
         execute("BEGIN");
+        m_steady = true;
+    }
     ++m_readers;
 }
 
 void Connection::endReading() noexcept {
-    if (--m_readers > 0 || !isOpen() || sqlite3_get_autocommit(m_handle.get()) != 0)
+    if (--m_readers > 0 || !isOpen() || !m_steady)
         return;
+    m_steady = false;
     try {
         execute("COMMIT");
     } catch (const Error&) {
@@ -127,8 +130,10 @@ void Connection::endReading() noexcept {
 }
 
 void Connection::prepareToWrite() {
-    if (m_readers > 0 && sqlite3_get_autocommit(m_handle.get()) == 0)
-        execute("COMMIT");
+    if (!m_steady)
+        return;
+    execute("COMMIT");
+    m_steady = false;
 }
 
 Table* Connection::findTable(const QString& name) {

@@ -86,6 +86,7 @@ private:
     QList<Relation> m_relations;
     PlanMemo<SelectPlan> m_memo;
     int m_readers = 0;
+    bool m_steady = false; ///< a stretch of reading is under way
     std::unordered_map<std::u16string, std::shared_ptr<const SelectPlan>> m_plans; ///< by shape
 };
 
