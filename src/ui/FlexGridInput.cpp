@@ -99,6 +99,17 @@ void FlexGrid::Private::noteMouse(GridCell cell) {
     Q_EMIT q.mouseMoved();
 }
 
+GridCell FlexGrid::Private::dragTarget(QPoint position) const {
+    const QRect area = q.viewport()->rect();
+    GridCell target = cellAt({std::clamp(position.x(), area.left(), area.right()), position.y()});
+    // Beyond an edge the selection grows row by row, and the view goes along.
+    if (position.y() < area.top())
+        target.row = nextCell(bounds(), selectionEnd, GridMove::Up).row;
+    else if (position.y() > area.bottom())
+        target.row = nextCell(bounds(), selectionEnd, GridMove::Down).row;
+    return target;
+}
+
 std::optional<int> FlexGrid::Private::borderAt(int y) const {
     // With a margin, that is where the borders are dragged.
     if (!rowsResizable || q.verticalHeader()->isVisible())
@@ -113,6 +124,7 @@ std::optional<int> FlexGrid::Private::borderAt(int y) const {
 }
 
 void FlexGrid::keyPressEvent(QKeyEvent* event) {
+    m_d->flush();
     if (event->matches(QKeySequence::Copy)) {
         QTableView::keyPressEvent(event);
         return;
@@ -122,7 +134,6 @@ void FlexGrid::keyPressEvent(QKeyEvent* event) {
         event->ignore();
         return;
     }
-    m_d->flush();
     const bool extend = event->modifiers().testFlag(Qt::ShiftModifier);
     const GridCell from = extend ? m_d->selectionEnd : m_d->current;
     m_d->moveByUser(nextCell(m_d->bounds(), from, *move), extend);
@@ -133,10 +144,8 @@ void FlexGrid::mousePressEvent(QMouseEvent* event) {
     m_d->flush();
     const QPoint position = event->position().toPoint();
     m_d->mouse = m_d->cellAt(position);
-    if (event->button() != Qt::LeftButton) {
-        QTableView::mousePressEvent(event);
+    if (event->button() != Qt::LeftButton)
         return;
-    }
     if (const auto row = m_d->borderAt(position.y())) {
         m_d->borderDrag = {*row, rowViewportPosition(*row - FixedRows())};
         return;
@@ -164,14 +173,12 @@ void FlexGrid::mouseMoveEvent(QMouseEvent* event) {
     }
     m_d->noteMouse(m_d->cellAt(position));
     if (m_d->pressed && event->buttons().testFlag(Qt::LeftButton))
-        m_d->moveByUser(m_d->mouse, true);
+        m_d->moveByUser(m_d->dragTarget(position), true);
 }
 
 void FlexGrid::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        QTableView::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton)
         return;
-    }
     m_d->flush();
     m_d->borderDrag.reset();
     const auto wasPressed = std::exchange(m_d->pressed, std::nullopt);

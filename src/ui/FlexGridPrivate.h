@@ -37,6 +37,8 @@ public:
     void noteMouse(GridCell cell);
     /// The cell at a point of the viewport; the last row or column where it is beyond all.
     [[nodiscard]] GridCell cellAt(QPoint position) const;
+    /// Where a drag to that point, possibly outside the viewport, spreads the selection to.
+    [[nodiscard]] GridCell dragTarget(QPoint position) const;
     [[nodiscard]] GridBounds bounds() const;
     /// The row whose lower border is at a height of the viewport, where the user may drag it.
     [[nodiscard]] std::optional<int> borderAt(int y) const;

@@ -163,6 +163,38 @@ TEST_F(GridInput, ADragSpreadsTheSelection) {
     EXPECT_EQ(grid.ColSel(), 3);
 }
 
+TEST_F(GridInput, ADragBeyondTheEdgeScrollsRowByRow) {
+    grid.setTopRow(40);
+    grid.flush();
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middleOf(40, 2));
+    QTest::mouseMove(grid.viewport(), QPoint(100, -5));
+    QTest::mouseMove(grid.viewport(), QPoint(101, -5));
+    EXPECT_EQ(grid.RowSel(), 38);
+    EXPECT_EQ(grid.TopRow(), 38);
+    const int below = grid.viewport()->height() + 5;
+    QTest::mouseMove(grid.viewport(), QPoint(100, below));
+    EXPECT_EQ(grid.RowSel(), 39);
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, QPoint(100, below));
+    EXPECT_EQ(grid.Row(), 40);
+}
+
+TEST_F(GridInput, TheRightButtonMovesNothing) {
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, middleOf(5, 3));
+    EXPECT_EQ(grid.Row(), 1);
+    EXPECT_EQ(takeEvents(), QStringList());
+    EXPECT_EQ(grid.MouseRow(), 5);
+}
+
+TEST_F(GridInput, TheWheelScrolls) {
+    QSignalSpy scroll(&grid, &FlexGrid::Scroll);
+    const QPointF place = grid.viewport()->rect().center();
+    QWheelEvent wheel(place, grid.viewport()->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(grid.viewport(), &wheel);
+    EXPECT_EQ(scroll.size(), 1);
+    EXPECT_GT(grid.TopRow(), 1);
+}
+
 TEST_F(GridInput, AListenerMayTakeRowsAwayUnderTheClick) {
     QObject::connect(&grid, &FlexGrid::LeaveCell, &grid, [this] { grid.setRows(3); });
     click(9, 2);
