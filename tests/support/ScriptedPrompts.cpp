@@ -128,12 +128,12 @@ void ScriptedPrompts::expectDialog(const char* name, std::function<void(QDialog&
     m_steps.emplace_back(DialogStep{QString::fromUtf8(name), std::move(act)});
 }
 
-void ScriptedPrompts::expectOpenFile(std::optional<QString> answer) {
-    m_steps.emplace_back(FileStep{true, std::move(answer)});
+void ScriptedPrompts::expectOpenFile(const std::optional<QString>& answer) {
+    m_steps.emplace_back(FileStep{true, !answer, answer.value_or(QString())});
 }
 
-void ScriptedPrompts::expectSaveFile(std::optional<QString> answer) {
-    m_steps.emplace_back(FileStep{false, std::move(answer)});
+void ScriptedPrompts::expectSaveFile(const std::optional<QString>& answer) {
+    m_steps.emplace_back(FileStep{false, !answer, answer.value_or(QString())});
 }
 
 QString ScriptedPrompts::describe(const Step& step) {
@@ -200,7 +200,7 @@ std::optional<QString> ScriptedPrompts::chooseFile(bool open, const FileDialogRe
     if (!step)
         return {};
     EXPECT_EQ(open, step->open) << "file dialog \"" << request.title.toStdString() << '"';
-    return step->answer;
+    return step->cancelled ? std::nullopt : std::optional(step->path);
 }
 
 std::optional<QString> ScriptedPrompts::openFile(QWidget* /*parent*/, const FileDialogRequest& request) {

@@ -65,8 +65,8 @@ public:
     /// A modal form of that name. It is shown, `act` works on it, and has to close it.
     void expectDialog(const char* name, std::function<void(QDialog&)> act);
     /// The answer to a file dialog; nothing stands for Cancel.
-    void expectOpenFile(std::optional<QString> answer);
-    void expectSaveFile(std::optional<QString> answer);
+    void expectOpenFile(const std::optional<QString>& answer);
+    void expectSaveFile(const std::optional<QString>& answer);
 
     /// Whether everything announced has come.
     [[nodiscard]] bool isFinished() const { return m_steps.empty(); }
@@ -89,7 +89,8 @@ private:
     };
     struct FileStep {
         bool open;
-        std::optional<QString> answer;
+        bool cancelled;
+        QString path;
     };
     using Step = std::variant<ExpectedMessage, DialogStep, FileStep>;
 
