@@ -68,7 +68,9 @@ void Connection::configure() {
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    // A quoted name is a name, never a text, so that one which does not exist is an error.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     registerTextRules(handle);
     // Set where they do not touch the file: the journal stands beside it only while a change is written,
     // and a change that has returned survives a loss of power.
@@ -132,8 +134,9 @@ void Connection::endReading() noexcept {
 void Connection::prepareToWrite() {
     if (!m_steady)
         return;
-    execute("COMMIT");
     m_steady = false;
+    if (sqlite3_get_autocommit(m_handle.get()) == 0) // else an error has ended it already
+        execute("COMMIT");
 }
 
 Table* Connection::findTable(const QString& name) {
