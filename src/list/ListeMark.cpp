@@ -37,17 +37,17 @@ private:
     int m_colSel;
 };
 
-void setPicture(FlexGrid& grid, int row, int column, const QPixmap& picture) {
+void setPicture(FlexGrid& grid, int row, const QPixmap& picture) {
     const KeptCell kept(grid);
     grid.setRow(row);
-    grid.setCol(column);
-    grid.setCellPictureAlignment(Centred);
+    grid.setCol(Liste::ColMarke);
+    if (!picture.isNull())
+        grid.setCellPictureAlignment(Centred);
     grid.setCellPicture(picture);
 }
 
 /// Stands in for a mark picture that cannot be read. The colour shows on light and on dark ground.
-QPixmap drawnMark(qreal scale) {
-    constexpr int side = 10;
+QPixmap drawnMark(int side, qreal scale) {
     QPixmap picture(QSize(side, side) * scale);
     picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
@@ -55,7 +55,8 @@ QPixmap drawnMark(qreal scale) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0xd0, 0x50, 0x20));
-    painter.drawPolygon(QPolygonF({QPointF(2, 1), QPointF(9, side / 2.0), QPointF(2, side - 1)}));
+    painter.drawPolygon(QPolygonF(
+        {QPointF(0.2 * side, 0.1 * side), QPointF(0.9 * side, 0.5 * side), QPointF(0.2 * side, 0.9 * side)}));
     return picture;
 }
 
@@ -68,7 +69,7 @@ void Liste::SetzeMarke() {
         const int row = m_grid->Row();
         clearMark(MarkierteZeile);
         if (row != 0)
-            setPicture(*m_grid, row, ColMarke, markPicture());
+            setPicture(*m_grid, row, markPicture());
         MarkierteZeile = dao::toInteger16(row);
         ConditionToUI();
     });
@@ -86,14 +87,14 @@ void Liste::ResetMarke() {
 /// A row that has gone since took its mark along.
 void Liste::clearMark(int row) {
     if (row < m_grid->Rows())
-        setPicture(*m_grid, row, ColMarke, QPixmap());
+        setPicture(*m_grid, row, QPixmap());
 }
 
 const QPixmap& Liste::markPicture() {
     if (m_mark.isNull())
         m_mark.load(m_context.state.MarkePath);
     if (m_mark.isNull())
-        m_mark = drawnMark(devicePixelRatioF());
+        m_mark = drawnMark(m_grid->DefaultRowHeight() / 2, devicePixelRatioF());
     return m_mark;
 }
 

@@ -1,6 +1,9 @@
 #include "ListBench.h"
 
+#include "EngineError.h"
+
 #include <QAction>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -231,9 +234,24 @@ TEST(ListeColumns, BorderOfAHiddenColumnCannotBeDragged) {
     ListBench bench;
     bench.list.Form_Load();
     child<QAction>(bench.list, "mnAnsichtWortart").trigger();
-    EXPECT_TRUE(bench.list.ColIsHidden(Liste::ColWortart));
-    EXPECT_TRUE(bench.list.ColIsHidden(Liste::ColGrammatikalisch));
-    EXPECT_FALSE(bench.list.ColIsHidden(Liste::ColSprache2));
+    bench.list.resize(900, 560);
+    bench.list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bench.list));
+
+    const auto moveOverHeaderOf = [&bench](int column) {
+        bench.grid.flush();
+        QHeaderView& header = *bench.grid.horizontalHeader();
+        const int section = column - bench.grid.FixedCols();
+        const QPoint place(header.sectionViewportPosition(section) + header.sectionSize(section) / 2,
+                           header.height() / 2);
+        QTest::mouseMove(header.viewport(), place);
+    };
+    moveOverHeaderOf(Liste::ColGrammatikalisch);
+    EXPECT_FALSE(bench.grid.AllowUserResizing()) << "its left border is that of the hidden column";
+    moveOverHeaderOf(Liste::ColSprache2);
+    EXPECT_TRUE(bench.grid.AllowUserResizing());
+    moveOverHeaderOf(Liste::ColFunktional);
+    EXPECT_TRUE(bench.grid.AllowUserResizing());
 }
 
 TEST(ListeTitle, FollowsTheGridWhenTheWindowBecomesActive) {

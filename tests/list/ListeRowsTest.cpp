@@ -1,5 +1,7 @@
 #include "ListBench.h"
 
+#include "EngineError.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
