@@ -1,7 +1,5 @@
 #include "RowSet.h"
 
-#include <QStringDecoder>
-
 namespace dao {
 
 using Kind = criteria::CellView::Kind;
@@ -36,7 +34,7 @@ void RowSet::append(const Statement& statement, int firstColumn) {
 void RowSet::appendText(QByteArrayView utf8, Cell& cell) {
     const qsizetype start = m_text.size();
     m_text.resize(start + utf8.size()); // never more UTF-16 units than bytes
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QStringDecoder decoder(QStringDecoder::Utf8, ExactText);
     QChar* const begin = m_text.data() + start;
     const QChar* const end = decoder.appendToBuffer(begin, utf8);
     m_text.resize(start + (end - begin));

@@ -56,7 +56,7 @@ void Statement::bind(int parameter, qint64 number) {
 }
 
 void Statement::bind(int parameter, const QString& text) {
-    const QByteArray utf8 = text.toUtf8();
+    const QByteArray utf8 = toUtf8(text);
     check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.constData(),
                               static_cast<sqlite3_uint64>(utf8.size()), SQLITE_TRANSIENT, SQLITE_UTF8));
 }
@@ -98,6 +98,14 @@ Value Statement::value(int column) const {
     case SQLITE_FLOAT: return real(column);
     default: return text(column);
     }
+}
+
+QByteArray toUtf8(QStringView text) {
+    return QStringEncoder(QStringEncoder::Utf8, ExactText).encode(text);
+}
+
+QString fromUtf8(QByteArrayView utf8) {
+    return QStringDecoder(QStringDecoder::Utf8, ExactText).decode(utf8);
 }
 
 QByteArray quotedName(const QString& name) {

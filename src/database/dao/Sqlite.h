@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 
 #include <QByteArray>
+#include <QStringConverter>
 
 #include <memory>
 
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] qint64 integer(int column) const { return sqlite3_column_int64(m_statement.get(), column); }
     [[nodiscard]] double real(int column) const { return sqlite3_column_double(m_statement.get(), column); }
     [[nodiscard]] QByteArrayView utf8(int column) const;
-    [[nodiscard]] QString text(int column) const { return QString::fromUtf8(utf8(column)); }
+    [[nodiscard]] QString text(int column) const { return fromUtf8(utf8(column)); }
     [[nodiscard]] Value value(int column) const;
 
 private:
@@ -64,6 +65,13 @@ public:
 private:
     Statement& m_statement;
 };
+
+/// How texts pass between program and file: a mark of byte order in front is text like any other. Half a
+/// character becomes the replacement sign (not "?", which would be a wildcard in a pattern).
+inline constexpr auto ExactText =
+    QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom;
+[[nodiscard]] QByteArray toUtf8(QStringView text);
+[[nodiscard]] QString fromUtf8(QByteArrayView utf8);
 
 /// A name as SQL takes it: in double quotes, those within it doubled.
 [[nodiscard]] QByteArray quotedName(const QString& name);

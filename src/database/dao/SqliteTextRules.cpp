@@ -11,14 +11,14 @@ namespace dao {
 namespace {
 
 int compareFolded(void* /*context*/, int sizeA, const void* a, int sizeB, const void* b) {
-    const auto left = QString::fromUtf8(static_cast<const char*>(a), sizeA);
-    const auto right = QString::fromUtf8(static_cast<const char*>(b), sizeB);
+    const QString left = fromUtf8({static_cast<const char*>(a), sizeA});
+    const QString right = fromUtf8({static_cast<const char*>(b), sizeB});
     return criteria::compareText(left, right);
 }
 
 QString argumentText(sqlite3_value* argument) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(argument));
-    return QString::fromUtf8(text, sqlite3_value_bytes(argument));
+    return fromUtf8({text, sqlite3_value_bytes(argument)});
 }
 
 /// matches_pattern(pattern, value). The compiled pattern stays with the statement while it runs.
