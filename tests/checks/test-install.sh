@@ -19,7 +19,7 @@ for file in \
     share/metainfo/org.lingomat.Lingomat.metainfo.xml \
     share/mime/packages/org.lingomat.Lingomat.xml \
     share/icons/hicolor/scalable/apps/org.lingomat.Lingomat.svg \
-    share/doc/Lingomat/copyright; do
+    share/doc/lingomat/copyright; do
     if [[ ! -s $prefix/$file ]]; then
         echo "not installed: $file"
         failed=1
