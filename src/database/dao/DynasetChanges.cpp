@@ -65,6 +65,7 @@ const Field& Dynaset::field(int column) const {
 }
 
 void Dynaset::addNew() {
+    m_work = Work::None;
     const std::size_t columns = plan().columns.size();
     m_values.assign(columns, {});
     m_set.assign(columns, false);
@@ -112,14 +113,21 @@ void Dynaset::insertRow() {
     QByteArray names;
     QByteArray parameters;
     std::vector<Value> values;
-    for (std::size_t i = 0; i < m_values.size(); ++i) {
-        if (!m_set[i])
-            continue;
+    const auto add = [&](const QString& name, const Value& value) {
         const QByteArray separator = names.isEmpty() ? "" : ", ";
-        names += separator + quotedName(plan().columns[i].field);
-        values.push_back(m_values[i]);
+        names += separator + quotedName(name);
+        values.push_back(value);
         parameters += separator + '?' + QByteArray::number(static_cast<qulonglong>(values.size()));
-    }
+    };
+    for (std::size_t i = 0; i < m_values.size(); ++i)
+        if (m_set[i])
+            add(plan().columns[i].field, m_values[i]);
+    // Fields that the statement does not show have their defaults all the same.
+    const QList<Field>& fields = table().definition.Fields;
+    for (int i = 0; i < fields.size(); ++i)
+        if (std::find(plan().fields.begin(), plan().fields.end(), i) == plan().fields.end())
+            if (const Value value = defaultValue(table().definition.Name, fields[i]); !value.isNull())
+                add(fields[i].Name, value);
     const QByteArray sql =
         "INSERT INTO " + table().sqlName +
         (names.isEmpty() ? QByteArray(" DEFAULT VALUES") : '(' + names + ") VALUES(" + parameters + ')');
