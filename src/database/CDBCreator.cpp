@@ -114,6 +114,7 @@ dao::Database CDBCreator::CreateNewDatabase(const QString& path, bool showMessag
 }
 
 void CDBCreator::createAll(LanguageFields& languages) {
+    const dao::WriteBurst burst(Database);
     Database.appendTable(vokabular());
     const QString names = u"Lang1="_s + languages.Lang1Name + u"@Lang2="_s + languages.Lang2Name;
     Database.appendProperty(u"Vokabular"_s, {u"Languages"_s, DataType::Text, names});

@@ -10,8 +10,6 @@ namespace dao {
 
 namespace {
 
-/// How long a file that another program holds is waited for, in milliseconds.
-constexpr int BusyTimeout = 2000;
 constexpr std::size_t MaximumPlans = 500;
 constexpr qint64 CheapCheckBytes = 4 * 1024 * 1024;
 
@@ -40,6 +38,8 @@ Connection::Connection(const QString& path, Mode mode) : m_path(path) {
         else
             checkFormat();
         readCatalogue();
+        if (keepsWriteAheadLog()) // left behind by a program that died in a burst
+            leaveWriteAheadLog();
     } catch (const Error& error) {
         if (error.Number() == ErrorNumber::CouldNotUpdate)
             throw Error(ErrorNumber::CannotOpenFile,
@@ -90,6 +90,8 @@ void Connection::close() {
     m_memo.clear();
     m_plans.clear();
     m_statements.clear();
+    if (keepsWriteAheadLog())
+        leaveWriteAheadLog();
     m_handle.reset();
 }
 

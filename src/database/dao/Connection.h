@@ -19,6 +19,9 @@ namespace dao {
 inline constexpr qint64 ApplicationId = 0x4C4D5433;
 inline constexpr qint64 LayoutVersion = 1;
 
+/// How long a file that another program holds is waited for, in milliseconds.
+inline constexpr int BusyTimeout = 2000;
+
 [[nodiscard]] QString unrecognizedFormat(const QString& path);
 
 /// A table of the open file.
@@ -58,6 +61,10 @@ public:
     /// Called before every change: ends a stretch of reading, so that the change is durable by itself.
     void prepareToWrite();
 
+    /// Begin and end a burst of changes. Bursts nest.
+    void beginBurst();
+    void endBurst() noexcept;
+
     [[nodiscard]] Table* findTable(const QString& name);
     [[nodiscard]] QStringList tableNames() const;
     void addTable(const TableDef& definition);
@@ -72,6 +79,8 @@ public:
 private:
     void open(Mode mode);
     void configure();
+    [[nodiscard]] bool keepsWriteAheadLog();
+    void leaveWriteAheadLog() noexcept;
     void createCatalogue();
     void checkFormat();
     void checkWholePages();
@@ -86,6 +95,7 @@ private:
     QList<Relation> m_relations;
     PlanMemo<SelectPlan> m_memo;
     int m_readers = 0;
+    int m_bursts = 0;
     bool m_steady = false; ///< a stretch of reading is under way
     std::unordered_map<std::u16string, std::shared_ptr<const SelectPlan>> m_plans; ///< by shape
 };

@@ -80,4 +80,12 @@ SteadyReading::~SteadyReading() {
     m_connection->endReading();
 }
 
+WriteBurst::WriteBurst(const Database& database) : m_connection(database.m_connection) {
+    database.connection().beginBurst();
+}
+
+WriteBurst::~WriteBurst() {
+    m_connection->endBurst();
+}
+
 } // namespace dao

@@ -50,6 +50,7 @@ private:
     friend class DBEngine;
     friend class Workspace;
     friend class SteadyReading;
+    friend class WriteBurst;
     explicit Database(std::shared_ptr<Connection> connection);
     [[nodiscard]] Connection& connection() const;
 
@@ -65,6 +66,20 @@ public:
     ~SteadyReading();
     SteadyReading(const SteadyReading&) = delete;
     SteadyReading& operator=(const SteadyReading&) = delete;
+
+private:
+    std::shared_ptr<Connection> m_connection;
+};
+
+/// While it lives, changes cost little each: for commands that write many rows. Every change still reaches
+/// the file whole before its call returns, so that the program may die at any moment; against a loss of
+/// power all of them are safe when the burst ends. Elsewhere each change is by itself.
+class WriteBurst {
+public:
+    explicit WriteBurst(const Database& database);
+    ~WriteBurst();
+    WriteBurst(const WriteBurst&) = delete;
+    WriteBurst& operator=(const WriteBurst&) = delete;
 
 private:
     std::shared_ptr<Connection> m_connection;

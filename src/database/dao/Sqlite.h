@@ -23,6 +23,13 @@ using SqliteHandle = std::unique_ptr<sqlite3, SqliteCloser>;
 [[nodiscard]] Error sqliteError(sqlite3* handle);
 [[nodiscard]] Error sqliteError(int code, const char* message);
 
+/// How texts pass between program and file: a mark of byte order in front is text like any other. Half a
+/// character becomes the replacement sign (not "?", which would be a wildcard in a pattern).
+inline constexpr auto ExactText =
+    QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom;
+[[nodiscard]] QByteArray toUtf8(QStringView text);
+[[nodiscard]] QString fromUtf8(QByteArrayView utf8);
+
 /// A prepared statement. Parameters and columns as SQLite counts them: from 1 and from 0.
 class Statement {
 public:
@@ -65,13 +72,6 @@ public:
 private:
     Statement& m_statement;
 };
-
-/// How texts pass between program and file: a mark of byte order in front is text like any other. Half a
-/// character becomes the replacement sign (not "?", which would be a wildcard in a pattern).
-inline constexpr auto ExactText =
-    QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom;
-[[nodiscard]] QByteArray toUtf8(QStringView text);
-[[nodiscard]] QString fromUtf8(QByteArrayView utf8);
 
 /// A name as SQL takes it: in double quotes, those within it doubled.
 [[nodiscard]] QByteArray quotedName(const QString& name);
