@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -7,6 +8,14 @@
 #include <cstdio>
 
 namespace {
+
+/// Temporary files go to memory where the system has a place for that: databases wait for the disk at every
+/// change, which a test has no use for.
+void keepTemporaryFilesInMemory() {
+    const QFileInfo memory(QStringLiteral("/dev/shm"));
+    if (qEnvironmentVariableIsEmpty("TMPDIR") && memory.isDir() && memory.isWritable())
+        qputenv("TMPDIR", "/dev/shm");
+}
 
 /// Points every place where a program keeps something of the user's into a folder that goes with the test.
 bool isolate(const QTemporaryDir& home) {
@@ -23,6 +32,7 @@ bool isolate(const QTemporaryDir& home) {
 } // namespace
 
 int main(int argc, char** argv) {
+    keepTemporaryFilesInMemory();
     const QTemporaryDir home;
     if (!isolate(home)) {
         std::fputs("no temporary folder for the test\n", stderr);
