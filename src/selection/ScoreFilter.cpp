@@ -19,6 +19,7 @@ ScoreFilter::ScoreFilter(Prompts& prompts, QWidget* parent) : QGroupBox(parent),
     m_min = addBound(u"MinScore"_s, 0);
     m_max = addBound(u"MaxScore"_s, 1);
     grid->setRowStretch(2, 1);
+    setFullRange(); // before anything listens: a text without its counterpart would be refused
     connect(m_min.box, &QLineEdit::textChanged, this, [this] { textChanged(m_min, u"MinText"_s); });
     connect(m_max.box, &QLineEdit::textChanged, this, [this] { textChanged(m_max, u"MaxText"_s); });
     // Tracking is on: dragging changes the value too.

@@ -16,42 +16,42 @@ struct LanguageFields;
 /// A pair of lists: what was chosen, and how many values are left to choose from.
 struct ChosenValues {
     qsizetype offered = 0;
-    QStringList chosen;
+    QStringList chosen{};
     [[nodiscard]] bool restricts() const { return !allSelected(offered, chosen.size()); }
 };
 
 /// Patterns for the four parts of an expression; an empty one restricts nothing.
 struct LanguageFilter {
     bool active = true;
-    QString prefix;
-    QString main;
-    QString suffix;
-    QString comment;
+    QString prefix{};
+    QString main{};
+    QString suffix{};
+    QString comment{};
 };
 
 /// A range of dates, yyyymmdd. It restricts unless it is the range of the whole database.
 struct DateRange {
-    QString von;
-    QString bis;
-    QString lowest;
-    QString highest;
+    QString von{};
+    QString bis{};
+    QString lowest{};
+    QString highest{};
     [[nodiscard]] bool restricts() const { return von != lowest || bis != highest; }
 };
 
 /// What the user filled in, all of it text.
 struct SelectionFilters {
-    ChosenValues bereich;
-    ChosenValues grammatikalisch;
-    ChosenValues funktional;
-    ChosenValues referenzen;
-    LanguageFilter lang1;
-    LanguageFilter lang2;
-    ChosenValues wortart;
-    QString beispielsatz;
-    QString zusatzinfo;
-    ChosenValues quelle;
-    DateRange eingabedatum;
-    DateRange aenderungsdatum;
+    ChosenValues bereich{};
+    ChosenValues grammatikalisch{};
+    ChosenValues funktional{};
+    ChosenValues referenzen{};
+    LanguageFilter lang1{};
+    LanguageFilter lang2{};
+    ChosenValues wortart{};
+    QString beispielsatz{};
+    QString zusatzinfo{};
+    ChosenValues quelle{};
+    DateRange eingabedatum{};
+    DateRange aenderungsdatum{};
     QString minScore = QStringLiteral("1");
     QString maxScore = QStringLiteral("6");
 };
