@@ -260,13 +260,8 @@ TEST_F(Find, AHitOfAnOrOfThousands) {
     for (int i = 1; i < 5000; ++i)
         criterion += u" OR ID = %1"_s.arg(100000 + i);
     Recordset recordset = words();
-    recordset.FindFirst(criterion);
-    EXPECT_TRUE(recordset.NoMatch());
     recordset.FindFirst(criterion + u" OR ID LIKE '5'"_s);
     EXPECT_EQ(main(recordset), u"Häuser");
-    EXPECT_EQ(
-        database.OpenRecordset(u"SELECT * FROM Wort WHERE "_s + criterion + u" OR ID = 2"_s).RecordCount(),
-        1);
 }
 
 } // namespace dao
