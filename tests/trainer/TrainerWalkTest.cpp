@@ -1,19 +1,10 @@
+#include "CDBCreator.h"
 #include "TrainingBench.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace lingomat;
-
-namespace {
-
-constexpr const char* NoSubscript = "Subscript out of range";
-
-QString error(const char* description) {
-    return QString::fromLatin1(description);
-}
-
-} // namespace
 
 TEST(Walk, AFreshSessionShowsTheLanguagesAndNothingElse) {
     TrainingBench bench(3);
@@ -318,6 +309,34 @@ TEST(Navigation, InRandomOrderForwardDrawsAndStaysWhereItIs) {
     EXPECT_EQ(bench.bar().value(), 0);
 }
 
+TEST(Records, AnEntryIsFoundByItsID) {
+    TrainingBench bench(1);
+    SharedState& state = bench.context.state;
+    CDBCreator creator(
+        {[](const QString&) {}, [](const QString& text) { ADD_FAILURE() << text.toStdString(); }, [] {}});
+    state.DBHandler.Database = creator.CreateNewDatabase(bench.context.path(u"words.lmt"_s), true, state);
+    ASSERT_TRUE(state.DBHandler.OpenAllRecordsets());
+    dao::Recordset& vokabular = state.DBHandler.RecordsetVokabular;
+    QStringList ids;
+    for (const QString& word : {u"Hund"_s, u"Katze"_s}) {
+        vokabular.AddNew();
+        for (const QString& field : {state.Lang1PrefixField, state.Lang1SuffixField,
+                                     state.Lang1KommentarField, state.Lang2PrefixField, state.Lang2MainField,
+                                     state.Lang2SuffixField, state.Lang2KommentarField})
+            vokabular.setField(field, QString());
+        vokabular.setField(state.Lang1MainField, word);
+        vokabular.Update();
+        vokabular.setBookmark(vokabular.LastModified());
+        ids += vokabular.field(u"ID"_s).toText();
+    }
+    EXPECT_TRUE(bench.trainer.PositioniereRecord(ids.at(0)));
+    EXPECT_EQ(vokabular.field(state.Lang1MainField).toText(), u"Hund");
+    EXPECT_TRUE(bench.trainer.PositioniereRecord(ids.at(1)));
+    EXPECT_EQ(vokabular.field(state.Lang1MainField).toText(), u"Katze");
+    EXPECT_FALSE(bench.trainer.PositioniereRecord(u"30000"_s));
+    EXPECT_FALSE(bench.trainer.PositioniereRecord(u"*no such*"_s));
+}
+
 TEST(Failures, ARowThatIsGoneIsReportedAndTheWalkGoesOn) {
     TrainingBench bench(3);
     bench.draw({3, 1, 2});
@@ -335,7 +354,7 @@ TEST(Failures, APositionBeyondThePermutationIsReported) {
     bench.list.MSFlexGrid1().AddItem(u"\t2\tWort 2\tword 2"_s);
     bench.step();
     bench.step();
-    bench.context.prompts.expectError(error(NoSubscript));
+    bench.context.prompts.expectError(u"Subscript out of range"_s);
     bench.step();
 }
 
