@@ -133,7 +133,7 @@ QString bigDatabase() {
     const QString path = QStringLiteral(LINGOMAT_BENCHMARK_FOLDER) + u"/big-1.lmt"_s;
     if (QFile::exists(path))
         return path;
-    const QTemporaryDir folder(quickFolder() + u"/lingomat-XXXXXX"_s);
+    const QTemporaryDir folder(quickFolder() + u"/lingomat-"_s);
     const QString draft = folder.filePath(u"big.lmt"_s);
     writeBigDatabase(draft);
     const QString copy = path + u".part"_s;
