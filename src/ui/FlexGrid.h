@@ -23,6 +23,7 @@ class FlexGrid final : public QTableView {
 public:
     explicit FlexGrid(QWidget* parent = nullptr);
     ~FlexGrid() override;
+    Q_DISABLE_COPY_MOVE(FlexGrid)
 
     // Size.
     [[nodiscard]] int Rows() const;

@@ -70,7 +70,7 @@ void FlexGrid::Private::setUp() {
                      [this](int section) { pressMargin(section + model.fixedRows()); });
     QObject::connect(heads, &QHeaderView::sectionResized, &q, [this](int section, int /*before*/, int width) {
         if (!m_flushing)
-            widths[static_cast<size_t>(section + model.fixedCols())] = width;
+            q.setColWidth(section + model.fixedCols(), width);
     });
     QObject::connect(q.verticalHeader(), &QHeaderView::sectionResized, &q,
                      [this](int section, int, int height) {

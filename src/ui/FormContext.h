@@ -28,6 +28,7 @@ class ClockSeededRandom final : public RandomSource {
 public:
     ClockSeededRandom();
     ~ClockSeededRandom() override;
+    Q_DISABLE_COPY_MOVE(ClockSeededRandom)
     void reseed() override;
     [[nodiscard]] double next() override;
 

@@ -11,9 +11,9 @@ namespace lingomat {
 /// One line of a form's table of texts. `object` is the objectName of a control, menu, action or tab page
 /// below the form (or of the form itself: its title). An empty text leaves what is there.
 struct FormText {
-    const char* object;
-    const char16_t* german;
-    const char16_t* english;
+    const char* object = nullptr;
+    const char16_t* german = nullptr;
+    const char16_t* english = nullptr;
     const char16_t* germanTip = nullptr;
     const char16_t* englishTip = nullptr;
 };

@@ -110,7 +110,7 @@ private:
 
 class SettingsStore::Private {
 public:
-    explicit Private(const QString& folder) : m_folder(folder) {}
+    explicit Private(QString folder) : m_folder(std::move(folder)) {}
 
     const SettingsFile& settings(const QString& application) {
         const auto pending = m_pending.find(application);

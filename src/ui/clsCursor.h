@@ -9,6 +9,7 @@ namespace lingomat {
 class clsCursor {
 public:
     clsCursor() = default;
+    ~clsCursor() = default;
     Q_DISABLE_COPY_MOVE(clsCursor)
 
     void SetCursorToBusy();
