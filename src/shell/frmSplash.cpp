@@ -73,7 +73,7 @@ void frmSplash::buildWidgets() {
     m_bar = new QProgressBar(m_statusFrame);
     m_bar->setObjectName("ProgressBar1"_L1);
     m_bar->setTextVisible(false);
-    m_bar->setMinimumWidth(m_bar->fontMetrics().averageCharWidth() * 60);
+    m_bar->setMinimumWidth(m_bar->fontMetrics().averageCharWidth() * 48);
     m_status = new QLabel(m_statusFrame);
     m_status->setObjectName("labStatus"_L1);
 
