@@ -2,6 +2,7 @@
 
 #include "FormTexts.h"
 #include "Globals.h"
+#include "WindowPlacement.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -148,8 +149,10 @@ void FontHelp::AddTo(QLineEdit& field, const QString& character) {
 }
 
 void FontHelp::showFor(QWidget& asker) {
-    winId(); // there has to be a window to hang on to the other one
-    follow(asker.window());
+    QWidget& window = *asker.window();
+    if (!isVisible())
+        move(placeBeside(window.frameGeometry(), size(), usableScreen(window)));
+    follow(window);
     followModalDialog();
     show();
     raise();
@@ -166,17 +169,13 @@ bool FontHelp::event(QEvent* event) {
 void FontHelp::followModalDialog() {
     const QWidget* dialog = QApplication::activeModalWidget();
     if (dialog && dialog != this)
-        follow(dialog);
+        follow(*dialog);
 }
 
-void FontHelp::follow(const QWidget* window) {
-    QWindow* own = windowHandle();
-    QWindow* other = window->windowHandle();
-    if (!own || !other || own->transientParent() == other)
-        return;
-    own->setTransientParent(other);
-    // Without it the pad hangs on to nothing, while another dialog may still be up.
-    connect(other, &QObject::destroyed, this, &FontHelp::followModalDialog,
+void FontHelp::follow(const QWidget& window) {
+    keepInFrontOf(*this, window);
+    // Without that window the pad hangs on to nothing, while another dialog may still be up.
+    connect(window.windowHandle(), &QObject::destroyed, this, &FontHelp::followModalDialog,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
 }
 

@@ -36,7 +36,7 @@ private:
     void addCharacters(QGridLayout& pad);
     /// Makes the pad a child of the dialog that would lock it out.
     void followModalDialog();
-    void follow(const QWidget* window);
+    void follow(const QWidget& window);
 
     QLineEdit* m_text1 = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -27,6 +28,15 @@ QPoint placeAtCell(const QRect& cell, QSize size, const QRect& area) {
     const bool fitsBelow = below + size.height() <= area.y() + area.height();
     const int y = fitsBelow ? below : cell.y() - size.height();
     return keptInside({QPoint(cell.x(), y), size}, area);
+}
+
+void keepInFrontOf(QWidget& window, const QWidget& owner) {
+    window.winId(); // makes the system window
+    owner.winId();
+    QWindow* front = window.windowHandle();
+    QWindow* behind = owner.windowHandle();
+    if (front && behind && front != behind)
+        front->setTransientParent(behind);
 }
 
 QRect usableScreen(const QWidget& widget) {

@@ -20,4 +20,8 @@ namespace lingomat {
 /// The part of the screen that windows may use, for the screen that a widget is on.
 [[nodiscard]] QRect usableScreen(const QWidget& widget);
 
+/// Keeps a window in front of another that is not its parent, and out of the reach of that one's modality.
+/// Both get their system windows if need be.
+void keepInFrontOf(QWidget& window, const QWidget& owner);
+
 } // namespace lingomat
