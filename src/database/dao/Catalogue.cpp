@@ -2,6 +2,10 @@
 
 #include "Connection.h"
 
+#include <QSet>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace dao {
@@ -92,15 +96,52 @@ void insertProperty(Connection& connection, const QString& table, const Property
            table, property.Name, static_cast<int>(property.Type), property.Value);
 }
 
+[[noreturn]] void damagedCatalogue() {
+    throw Error(ErrorNumber::UnrecognizedFormat,
+                u"Unrecognized database format: the file's catalogue is damaged."_s);
+}
+
 DataType dataType(qint64 number) {
     switch (number) {
     case static_cast<int>(DataType::Integer): return DataType::Integer;
     case static_cast<int>(DataType::Long): return DataType::Long;
     case static_cast<int>(DataType::Text): return DataType::Text;
-    default:
-        throw Error(ErrorNumber::UnrecognizedFormat,
-                    u"Unrecognized database format: the file's catalogue is damaged."_s);
+    default: damagedCatalogue();
     }
+}
+
+/// Only tables that lie in the file: a view in their place could yield rows without end.
+void requireCatalogueTables(sqlite3* handle) {
+    Statement tables(handle,
+                     "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND rootpage > 0 AND name "
+                     "IN ('lmt_fields', 'lmt_indexes', 'lmt_properties', 'lmt_relations')");
+    if (!tables.step() || tables.integer(0) != 4)
+        damagedCatalogue();
+}
+
+/// Whether a column is the row's own number in SQLite's sense: whole, unique and never Null. Keysets, and
+/// walks that end, rely on that.
+bool isRowNumber(sqlite3* handle, const Table& table) {
+    Statement keys(handle, "SELECT name, upper(type) FROM pragma_table_info(?1) WHERE pk > 0");
+    keys.bind(1, table.definition.Name);
+    if (!keys.step() || quotedName(keys.text(0)).compare(table.keyColumn, Qt::CaseInsensitive) != 0 ||
+        keys.text(1) != u"INTEGER"_s || keys.step())
+        return false;
+    // A key that is anything else has an index of its own.
+    Statement keyIndex(handle, "SELECT 1 FROM pragma_index_list(?1) WHERE origin = 'pk'");
+    keyIndex.bind(1, table.definition.Name);
+    return !keyIndex.step();
+}
+
+/// The table has the fields that the catalogue tells, each named once.
+bool hasFields(sqlite3* handle, const TableDef& definition) {
+    QSet<QString> columns;
+    Statement info(handle, "SELECT name FROM pragma_table_info(?1)");
+    info.bind(1, definition.Name);
+    while (info.step())
+        columns.insert(info.text(0).toLower());
+    return std::all_of(definition.Fields.begin(), definition.Fields.end(),
+                       [&columns](const Field& field) { return columns.remove(field.Name.toLower()); });
 }
 
 } // namespace
@@ -160,10 +201,23 @@ void Connection::addRelation(const Relation& relation) {
 }
 
 void Connection::readCatalogue() {
-    Statement fields(m_handle.get(),
-                     "SELECT f.table_name, f.name, f.type, f.size, f.attributes, f.default_value, "
-                     "f.allow_zero_length FROM lmt_fields f JOIN sqlite_schema s "
-                     "ON s.type = 'table' AND s.name = f.table_name ORDER BY s.rowid, f.position");
+    try {
+        requireCatalogueTables(m_handle.get());
+        readTables();
+        readTableDetails();
+    } catch (const Error& error) {
+        if (error.Number() == ErrorNumber::ObjectInvalid) // a column that is missing
+            damagedCatalogue();
+        throw;
+    }
+}
+
+void Connection::readTables() {
+    Statement fields(
+        m_handle.get(),
+        "SELECT f.table_name, f.name, f.type, f.size, f.attributes, f.default_value, "
+        "f.allow_zero_length FROM lmt_fields f JOIN sqlite_schema s "
+        "ON s.type = 'table' AND s.rootpage > 0 AND s.name = f.table_name ORDER BY s.rowid, f.position");
     while (fields.step()) {
         const QString tableName = fields.text(0);
         auto& table = m_tables[tableName.toLower()];
@@ -176,9 +230,14 @@ void Connection::readCatalogue() {
             {fields.text(1), dataType(fields.integer(2)), static_cast<int>(fields.integer(3)),
              static_cast<int>(fields.integer(4)), fields.value(5), fields.integer(6) != 0});
     }
-    for (const auto& [name, table] : m_tables)
+    for (const auto& [name, table] : m_tables) {
         setKey(*table);
+        if (!isRowNumber(m_handle.get(), *table) || !hasFields(m_handle.get(), table->definition))
+            damagedCatalogue();
+    }
+}
 
+void Connection::readTableDetails() {
     Statement indexes(m_handle.get(),
                       "SELECT table_name, name, field, is_primary, is_unique FROM lmt_indexes");
     while (indexes.step())

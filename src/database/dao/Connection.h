@@ -86,6 +86,8 @@ private:
     void checkWholePages();
     void checkIntegrity();
     void readCatalogue();
+    void readTables();
+    void readTableDetails(); ///< indexes, properties, relations
 
     QString m_path;
     SqliteHandle m_handle;
