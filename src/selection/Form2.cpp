@@ -24,8 +24,9 @@ namespace lingomat {
 
 namespace {
 
-/// The smallest screen that the program is made for; the window starts no larger than that.
-constexpr QSize SmallestScreen{800, 600};
+// The window is made for a screen of 800x600; some of it goes to its frame and to the desktop's bars.
+constexpr QSize SmallestStart{720, 480};
+constexpr QSize LargestStart{780, 560};
 
 } // namespace
 
@@ -59,9 +60,7 @@ void Form2::Form_Load() {
         m_entryDates.SetInitialisierung(false);
         m_changeDates.SetInitialisierung(false);
     });
-    resize(sizeHint()
-               .expandedTo({SmallestScreen.width() * 9 / 10, SmallestScreen.height() * 4 / 5})
-               .boundedTo(SmallestScreen));
+    resize(sizeHint().expandedTo(SmallestStart).boundedTo(LargestStart));
 }
 
 void Form2::initialisiere() {

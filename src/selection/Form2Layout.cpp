@@ -38,6 +38,12 @@ QLabel* addLabel(QGridLayout& grid, const QString& name, QWidget* buddy, int row
     return label;
 }
 
+/// Asks for the room that its pages need, and scrolls them where a screen has less.
+class PageScroller final : public QScrollArea {
+public:
+    [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
 /// A page with one text box.
 QWidget* textPage(const QString& name, QLineEdit* box) {
     auto* page = named(new QGroupBox, name);
@@ -70,7 +76,7 @@ void Form2::buildWidgets() {
 
     auto* body = new QHBoxLayout;
     body->setSpacing(0);
-    body->addWidget(m_tabs, 0);
+    body->addWidget(m_tabs, 0, Qt::AlignTop);
     body->addWidget(buildPages(), 1);
     auto* centre = named(new QWidget, u"centre"_s);
     auto* column = new QVBoxLayout(centre);
@@ -93,7 +99,7 @@ QWidget* Form2::buildPages() {
         m_pages->addWidget(keepingItsPlace(page));
     m_pages->addWidget(buildMiscellaneousPage());
 
-    auto* scroller = named(new QScrollArea, u"pageScroller"_s);
+    auto* scroller = named(new PageScroller, u"pageScroller"_s);
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setFocusPolicy(Qt::NoFocus);
@@ -142,13 +148,12 @@ QWidget* Form2::buildMiscellaneousPage() {
     m_infoPage = textPage(u"picZusatzinfo"_s, m_zusatzinfo);
 
     auto* panel = named(new QWidget, u"picSonstiges"_s);
-    auto* grid = new QGridLayout(panel);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(keepingItsPlace(m_entryFilter), 0, 0);
-    grid->addWidget(keepingItsPlace(m_changeFilter), 0, 1);
-    grid->addWidget(keepingItsPlace(m_samplePage), 1, 0, 1, 2);
-    grid->addWidget(keepingItsPlace(m_infoPage), 2, 0, 1, 2);
-    grid->setRowStretch(3, 1);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* page : {static_cast<QWidget*>(m_entryFilter), static_cast<QWidget*>(m_changeFilter),
+                          m_samplePage, m_infoPage})
+        column->addWidget(keepingItsPlace(page));
+    column->addStretch();
     return panel;
 }
 

@@ -64,7 +64,7 @@ QListWidget* ListPairFrame::addList(const QString& name, int column) {
     auto* list = new QListWidget(this);
     list->setObjectName(name);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setMinimumSize(list->fontMetrics().averageCharWidth() * 18, list->fontMetrics().height() * 8);
+    list->setMinimumSize(list->fontMetrics().averageCharWidth() * 8, list->fontMetrics().height() * 8);
     SetzeScrollbreite(*list);
     static_cast<QGridLayout*>(layout())->addWidget(list, Lists, column);
     return list;

@@ -11,6 +11,9 @@ namespace {
 /// Space between a caption and the edges of its tab, in average characters.
 constexpr int SideMargin = 2;
 
+/// Width of the bar that marks the selected tab, in pixels: dark styles tell it too faintly.
+constexpr int MarkWidth = 4;
+
 } // namespace
 
 SideTabBar::SideTabBar(const QString& name, QWidget* parent) : QTabBar(parent) {
@@ -50,6 +53,11 @@ void SideTabBar::paintEvent(QPaintEvent* /*event*/) {
         QStyleOptionTab option;
         initStyleOption(&option, index);
         painter.drawControl(QStyle::CE_TabBarTabShape, option);
+        if (index == currentIndex()) {
+            const QRect mark(option.rect.topLeft() + QPoint(1, 3),
+                             QSize(MarkWidth, option.rect.height() - 6));
+            painter.fillRect(mark, palette().highlight());
+        }
         const QRect caption = option.rect.adjusted(margin, 0, -margin / 2, 0);
         painter.drawItemText(caption, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
                              tabText(index), QPalette::WindowText);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -214,6 +215,27 @@ TEST_P(Form, FitsTheSmallestScreenOnEveryTab) {
         EXPECT_EQ(scroller.verticalScrollBar()->maximum(), 0) << "tab " << number;
         EXPECT_TRUE(tabs.rect().contains(tabs.tabRect(number - 1))) << "tab " << number;
     }
+}
+
+TEST_P(Form, IsNotCutOnTheSmallestScreenInALargeFont) {
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    {
+        SelectionBench enlarged(QString::fromUtf16(GetParam()));
+        enlarged.loadWith({{.main1 = u"x"_s}});
+        enlarged.form.show();
+        EXPECT_LE(enlarged.form.width(), 800);
+        EXPECT_LE(enlarged.form.height(), 600);
+        const auto& scroller = child<QScrollArea>(enlarged.form, "pageScroller");
+        for (int number = 1; number <= 9; ++number) {
+            enlarged.selectTab(number);
+            enlarged.form.grab();
+            EXPECT_EQ(scroller.horizontalScrollBar()->maximum(), 0) << "tab " << number;
+        }
+    }
+    QApplication::setFont(before);
 }
 
 TEST_P(Form, EscapeClosesAndEnterRunsAndCloses) {

@@ -49,7 +49,7 @@ QList<OddText> patterns() {
         {u"a -- b"_s, {u"a -- b"_s}},
         {u"(x) OR (1=1"_s, {u"(x) OR (1=1"_s}},
         {u"😀"_s, {u"😀"_s}},
-        {u"?"_s, {}},
+        {u"?"_s, {u"😀"_s}}, // one character, though two units
         {u"häuser"_s, {u"Häuser"_s}},
         {u"Hauser"_s, {}},
     };
