@@ -1,27 +1,16 @@
 #include "EngineTest.h"
 
+#include "FastFolder.h"
+
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace dao {
 
-namespace {
-
-/// Every change waits for the disk: where the system has a folder in memory, tests use that.
-QString folderTemplate() {
-    const QString memory = u"/dev/shm"_s;
-    const QString folder = QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
-    return folder + u"/lingomat-test-XXXXXX"_s;
-}
-
-} // namespace
-
 EngineTest::EngineTest()
-    : m_folder(folderTemplate()),
-      database(DBEngine::Workspaces(0).CreateDatabase(file(), u";LANGID=0x0409"_s)) {
+    : m_folder(fastFolder()), database(DBEngine::Workspaces(0).CreateDatabase(file(), u";LANGID=0x0409"_s)) {
     database.appendTable(wortTable());
     database.appendTable(linkTable());
 }
