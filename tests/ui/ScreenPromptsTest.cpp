@@ -1,4 +1,5 @@
 #include "Globals.h"
+#include "ModalDriver.h"
 #include "TestContext.h"
 
 #include <QApplication>
@@ -14,17 +15,8 @@ namespace lingomat {
 
 namespace {
 
-/// Runs `act` on the message box that comes up next.
-void onNextBox(const std::function<void(QMessageBox&)>& act) {
-    QTimer::singleShot(0, qApp, [act] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        act(*box);
-    });
-}
-
 void pressOnNextBox(Qt::Key key) {
-    onNextBox([key](QMessageBox& box) { QTest::keyClick(&box, key); });
+    onNextModal<QMessageBox>([key](QMessageBox& box) { QTest::keyClick(&box, key); });
 }
 
 } // namespace
@@ -56,7 +48,7 @@ TEST(ScreenPrompts, EscapeMeansNo) {
 TEST(ScreenPrompts, ABoxShowsItsTextAsItIs) {
     const InterfaceLanguage language(u"En"_s);
     ScreenPrompts prompts;
-    onNextBox([](QMessageBox& box) {
+    onNextModal<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.text(), u"Database:\n<none> <b>"_s);
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
@@ -75,7 +67,7 @@ TEST(ScreenPrompts, ButtonsSpeakTheInterfaceLanguage) {
     for (const Case& c : {Case{u"En"_s, u"&Yes"_s, u"&No"_s}, Case{u"De"_s, u"&Ja"_s, u"&Nein"_s}}) {
         const InterfaceLanguage language(c.language);
         ScreenPrompts prompts;
-        onNextBox([&c](QMessageBox& box) {
+        onNextModal<QMessageBox>([&c](QMessageBox& box) {
             EXPECT_EQ(box.button(QMessageBox::Yes)->text(), c.yes);
             EXPECT_EQ(box.button(QMessageBox::No)->text(), c.no);
             box.button(QMessageBox::Yes)->click();
@@ -87,7 +79,7 @@ TEST(ScreenPrompts, ButtonsSpeakTheInterfaceLanguage) {
 TEST(ScreenPrompts, TheWaitCursorRestsWhileABoxIsUp) {
     ScreenPrompts prompts;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    onNextBox([](QMessageBox& box) {
+    onNextModal<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
         box.accept();
     });

@@ -17,6 +17,12 @@ TEST(SettingsFile, ReadsAsTold) {
                                         "Min=1\n"));
 }
 
+TEST(SettingsFile, BlanksAtTheEndsAreWrittenSoThatNoEditorDropsThem) {
+    SettingsFile file;
+    file.sections[u" S "_s][u" k "_s] = u" a b "_s;
+    EXPECT_EQ(file.toText(), QByteArray("[%20S%20]\n%20k%20=%20a b%20\n"));
+}
+
 TEST(SettingsFile, LinesThatCannotBeReadCostNoOthers) {
     const QByteArray bad[] = {
         QByteArray("no equals sign"), QByteArray("key=%"),         QByteArray("key=%2"),
