@@ -126,6 +126,7 @@ void AddListBox::buildWidgets() {
     OK = newButton(u"OK");
     QPushButton* cancel = newButton(u"cmClose");
     QPushButton* font = newButton(u"cmdFont");
+    font->setFocusPolicy(Qt::TabFocus); // a click leaves the caret in the field that is to be pasted into
     connect(cancel, &QPushButton::clicked, this, &AddListBox::cmClose_Click);
     connect(font, &QPushButton::clicked, this, &AddListBox::cmdFont_Click);
 

@@ -68,6 +68,7 @@ void AusdruckForm::buildWidgets() {
     QPushButton* ok = newButton(u"cmdOK"_s, &AusdruckForm::cmdOK_Click);
     QPushButton* cancel = newButton(u"cmdCancel"_s, &AusdruckForm::cmdCancel_Click);
     ok->setDefault(true);
+    font->setFocusPolicy(Qt::TabFocus); // a click leaves the caret in the field that is to be pasted into
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(font);

@@ -90,6 +90,7 @@ void frmVokabelEingabe::buildWidgets() {
     QPushButton* ok = newButton(*this, u"cmdOK"_s, &frmVokabelEingabe::cmdOK_Click);
     QPushButton* cancel = newButton(*this, u"cmdCancel"_s, &frmVokabelEingabe::cmdCancel_Click);
     ok->setDefault(true);
+    font->setFocusPolicy(Qt::TabFocus); // a click leaves the caret in the field that is to be pasted into
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_synonymsButton);
