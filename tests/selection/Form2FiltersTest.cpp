@@ -148,6 +148,17 @@ TEST_F(Dates, BoundsAreReadAnewForAnotherDatabase) {
     EXPECT_EQ(bench.statusText(), u"0 entries selected"_s);
 }
 
+TEST(DatesOfTheFuture, StandInTheBoxesAndLeaveTheFilterUnused) {
+    SelectionBench bench;
+    bench.loadWith({{.main1 = u"a"_s, .fields = {{u"Eingabedatum"_s, u"20300615"_s}}}});
+    EXPECT_EQ(bench.text("txtEingabeVonTag") + bench.text("txtEingabeVonMonat") +
+                  bench.text("txtEingabeVonJahr"),
+              u"15062030"_s);
+    EXPECT_EQ(bench.text("txtEingabeBisJahr"), u"2002"_s);
+    bench.run();
+    EXPECT_EQ(bench.listed(), QStringList{u"a"_s});
+}
+
 TEST(DatesWithoutADatabase, StayAsTheyAre) {
     SelectionBench bench;
     bench.load();
