@@ -62,6 +62,18 @@ TEST(ListeLoad, ProgressGoesUpToTheEndOfTheLoad) {
     EXPECT_EQ(values, (QList<int>{65, 68, 70, 75, 77, 78}));
 }
 
+TEST(ListeLoad, FirstDataRowIsThePlaceholderUntilTheListIsEmptied) {
+    ListBench bench;
+    QList<int> heights;
+    QObject::connect(&bench.list, &Liste::loadProgress, &bench.list, [&](int) {
+        if (bench.grid.Rows() > 1)
+            heights << bench.grid.RowHeight(1);
+    });
+    bench.list.Form_Load();
+    const int height = bench.grid.DefaultRowHeight();
+    EXPECT_EQ(heights, (QList<int>{height, height, 0, 0, 0}));
+}
+
 TEST(ListeLoad, GridHasTwentyFourColumnsAndOnlyTheHeader) {
     ListBench bench;
     bench.list.Form_Load();
@@ -259,10 +271,13 @@ TEST(ListeTitle, FollowsTheGridWhenTheWindowBecomesActive) {
     bench.list.Form_Load();
     bench.addPlainRow(u"1"_s);
     bench.addPlainRow(u"2"_s);
+    bench.list.SetzeStatus();
+    ASSERT_EQ(bench.list.windowTitle(), u"Vocab List - 2 entries"_s);
+    bench.list.initialisiereListe();
     bench.list.show();
     bench.list.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.list));
-    EXPECT_EQ(bench.list.windowTitle(), u"Vocab List - 2 entries"_s);
+    EXPECT_EQ(bench.list.windowTitle(), u"Vocab List"_s);
 }
 
 TEST(ListeClose, HidesTheWindowAndKeepsRowsAndCounters) {
