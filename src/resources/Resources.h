@@ -10,7 +10,9 @@ namespace lingomat {
 void initResources();
 
 /// An action's icon: one of "new", "open", "print", "selection", "list", "trainer", "quit", "help", "step",
-/// "first", "previous", "next", "last", "restart". It is drawn anew at each size and scale in the text colour
+/// "first", "previous", "next", "last", "restart", or of the Trainer's options: "sequential", "shuffle",
+/// "random", "language1-first", "language2-first", "self-test", "loop", "write", "confirm-error",
+/// "main-only". It is drawn anew at each size and scale in the text colour
 /// of the application's palette, so that it is readable on light and dark ground. A name that does not exist
 /// is a programming error; it stops a debug build and gives an empty icon elsewhere.
 [[nodiscard]] QIcon icon(QLatin1StringView name);

@@ -63,7 +63,10 @@ TEST_P(ActionIcon, IsDrawnAtTheSizeAndScaleAskedFor) {
 
 INSTANTIATE_TEST_SUITE_P(All, ActionIcon,
                          testing::Values("new", "open", "print", "selection", "list", "trainer", "quit",
-                                         "help", "step", "first", "previous", "next", "last", "restart"));
+                                         "help", "step", "first", "previous", "next", "last", "restart",
+                                         "sequential", "shuffle", "random", "language1-first",
+                                         "language2-first", "self-test", "loop", "write", "confirm-error",
+                                         "main-only"));
 
 TEST(Icon, FollowsAChangeOfPalette) {
     const QIcon made = icon("step"_L1);
