@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ColumnOptions.h"
+#include "FontHelp.h"
 #include "Form1.h"
 #include "Form2.h"
 #include "FormContext.h"
@@ -60,6 +61,7 @@ private:
     ColumnOptions m_columns;
     Progress m_progress;
     FormContext m_context;
+    FontHelp m_fontHelp;
     Liste m_liste;
     Trainer m_trainer;
     Form2 m_form2;

@@ -1,5 +1,8 @@
 #include "Trainer.h"
 
+#include "TrainerPanels.h"
+
+#include <QAction>
 #include <QEvent>
 
 namespace lingomat {
@@ -19,18 +22,24 @@ Trainer::Trainer(FormContext& context, Liste& liste, QWidget* parent)
     buildVokabelnGrid();
     buildMenus();
     buildStatusBar();
+    buildDialogs();
     connectEvents();
+    connectPanels();
 }
 
 Trainer::~Trainer() = default;
 
 void Trainer::Form_Load() {
     Q_EMIT loadProgress(83);
+    VolleBreite = width();
+    m_panelEntries[0]->setChecked(true);
     Command6_Click();
     Q_EMIT loadProgress(85);
     OptionsToUI();
     RowPositionToUI();
     Q_EMIT loadProgress(88);
+    m_panels->setTab(1);
+    LetzteEingabe.clear();
     SetUserInterfaceProperties();
     Q_EMIT loadProgress(90);
 }

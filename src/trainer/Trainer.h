@@ -2,14 +2,17 @@
 
 #include "FormContext.h"
 #include "IntegerArray.h"
+#include "Recordset.h"
+#include "TrainerToolbar.h"
 
 #include <QMainWindow>
 
 #include <array>
 #include <functional>
+#include <optional>
+#include <vector>
 
 class QAction;
-class QActionGroup;
 class QLabel;
 class QMenu;
 class QProgressBar;
@@ -17,8 +20,15 @@ class QPushButton;
 
 namespace lingomat {
 
+class ConfirmDlg;
+class ConfirmForm;
 class FlexGrid;
+class InputFenster;
 class Liste;
+class SynonymButtons;
+class TrainerPanels;
+class VerdictBox;
+struct ExpressionParts;
 
 /// The Trainer: walks the rows of the list's grid, question by question.
 ///
@@ -53,6 +63,14 @@ public:
     IntegerArray Sequenz;        ///< shuffled order: position to row
     IntegerArray SchleifeStatus; ///< per position: LoopEntryDone once answered right
 
+    // Judging.
+    static constexpr int ScoreRichtig = 0; ///< verdicts, for ChangeErrorCount
+    static constexpr int ScoreFalsch = 1;
+    QString LetzteEingabe; ///< the last answer typed, cleaned up
+    /// Per language, the criterion by which the synonyms of the entry on the screen are walked through;
+    /// empty: no walk is under way.
+    std::array<QString, 2> SynonymFilter;
+
     /// Sets the form up and begins a session; to be called once, before the window is used.
     void Form_Load();
     /// Runs by itself whenever the window becomes the active one.
@@ -66,6 +84,7 @@ public:
     void back_Click();     ///< to the first entry
     void ToEnd_Click();    ///< to the last entry
     void Command4_Click(); ///< "Close"
+    void Suche_Click();    ///< "Find": what the last answer could have meant
 
     void initialisiereSchleife(); ///< opens every position of the loop
     /// Moves Position on to an open entry of the loop. False: no entry is open.
@@ -77,15 +96,32 @@ public:
     /// Goes to the entry in the session's recordset of all entries. False: there is no such entry.
     bool PositioniereRecord(const QString& id);
 
+    void DoFehlerhandlingMitSchreiben();  ///< asks for a typed answer and judges it
+    void DoFehlerhandlingOhneSchreiben(); ///< asks whether the answer was known
+    /// Moves the score of the present entry by a verdict, in the list and in the database at once.
+    void ChangeErrorCount(int verdict);
+    /// Whether the input equals a synonym of the present entry in the language asked for.
+    [[nodiscard]] bool IsSynonym(const QString& input);
+    /// Type of the reference to an entry of similar or different meaning that the input equals; empty: none.
+    [[nodiscard]] QString CheckForSpecialRelation(const QString& input);
+    /// Begins a walk through the synonyms of the entry on the screen in language 1 or 2.
+    void SetzeSynonymFilter(int language);
+    enum class SynonymStep { Next, Previous };
+    /// Shows another synonym of the expression in language 1 or 2, or behind the last one its own text.
+    void ZeigeSynonym(SynonymStep step, int language);
+
     /// Shows a row of the list, with the solution where ZeigeLoesung is 1; 0 empties the display.
     void ZeigeVokabel(int row);
     void RowPositionToUI(); ///< the commands that go back, by the present position
     void OptionsToUI();     ///< brings commands, menus and captions in line with the options
     void InitStatusBar();
+    void ClearDetails();       ///< empties the panels
+    void InvertVokabelnGrid(); ///< swaps question and solution, for a change of the language on top
     void SetUserInterfaceProperties();
 
 Q_SIGNALS:
     void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
+    void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
 
 protected:
     bool event(QEvent* event) override;
@@ -110,9 +146,11 @@ private:
     [[nodiscard]] QPushButton* newButton(QLatin1StringView name, const QIcon& icon);
     void buildMenus();
     [[nodiscard]] QAction* newEntry(QMenu& menu, QLatin1StringView name, const QKeySequence& key);
-    [[nodiscard]] QAction* newChoice(QMenu& menu, QActionGroup& group, QLatin1StringView name);
+    [[nodiscard]] QAction* newChoice(QMenu& menu, QLatin1StringView name);
+    void buildDialogs();
     void buildStatusBar();
     void connectEvents();
+    void connectPanels();
 
     // VokabelnGrid: fonts and sizes follow the form's font and the room there is.
     void buildVokabelnGrid();
@@ -121,6 +159,8 @@ private:
     void fitExpression(GridRow row);
     void setExpression(GridRow row, const QString& text);
     void followDraggedBorder();
+    void placeOverGrid(); ///< the synonym buttons and the verdict, in the rows that they belong to
+    [[nodiscard]] QRect expressionLine(GridRow row) const;
     [[nodiscard]] int sharedHeight() const; ///< room of question and solution together
 
     // Sequence.
@@ -136,10 +176,53 @@ private:
     void sayEndOfSequence();
     void attempt(const std::function<void()>& step); ///< under the error trap
 
+    // Answers.
+    [[nodiscard]] int targetLanguage() const; ///< the one asked for
+    [[nodiscard]] QString currentKey() const; ///< of the list's current row
+    [[nodiscard]] ExpressionParts storedParts(int language) const;
+    void askForAnswer();
+    [[nodiscard]] bool isAnswerRight(const QString& answer);
+    [[nodiscard]] bool regardAsCorrect(const QString& question);
+    [[nodiscard]] bool isErrorWaived();
+    [[nodiscard]] bool hasSynonym(const QString& criterion, const QString& input);
+    [[nodiscard]] bool meansOtherEntry(const QString& key, const QString& input);
+    void acceptAnswer();
+    void rejectAnswer();
+    void clearVerdict();
+
+    // Synonyms.
+    [[nodiscard]] static size_t languageIndex(int language) { return language == 1 ? 0 : 1; }
+    [[nodiscard]] int languageOfRow(GridRow row) const;
+    void connectSynonyms(const SynonymButtons& buttons, GridRow row);
+    [[nodiscard]] bool findSynonym(SynonymStep step, int language);
+    void endSynonyms();
+    void showSynonymButtons(bool visible);
+
+    // Search.
+    struct Match;
+    [[nodiscard]] std::vector<Match> findMeanings();
+    void showMeanings(const std::vector<Match>& matches);
+
+    // Panels.
+    void showDetails(int row);
+    void loadReferences();
+    void showPanel(int tab);
+    void choosePanel(int tab);
+    void menDetailsjanein_Click();
+    void checkPanel(int tab);
+
     // Options.
+    void pressOption(TrainerToolbar::Button button, bool pressed);
     void chooseOrder(bool Trainer::*order);
     void chooseLanguage(bool Trainer::*language);
-    void InvertVokabelnGrid();
+    void chooseSelfTest(bool on);
+    void chooseWriting(bool on);
+
+    /// The entry on the screen: its key and its own texts. Empty while nothing is shown.
+    struct ShownEntry {
+        QString key;
+        std::array<QString, 2> expressions;
+    };
 
     FormContext& m_context;
     Liste& m_liste;
@@ -158,12 +241,27 @@ private:
     Command m_forward;
     Command m_first;
     Command m_last;
-    std::array<QLabel*, PanelCount> m_panels{};
-    QAction* m_sequential = nullptr;
-    QAction* m_shuffled = nullptr;
-    QAction* m_random = nullptr;
-    QAction* m_language1First = nullptr;
-    QAction* m_language2First = nullptr;
+    std::array<QLabel*, PanelCount> m_statusPanels{};
+
+    TrainerToolbar* m_toolbar = nullptr;
+    VerdictBox* m_right = nullptr; ///< Richtig
+    VerdictBox* m_wrong = nullptr; ///< NichtWort
+    QPushButton* m_search = nullptr;
+    QAction* m_searchEntry = nullptr;
+    SynonymButtons* m_questionSynonyms = nullptr; ///< UpDown1
+    SynonymButtons* m_solutionSynonyms = nullptr; ///< UpDown2
+    TrainerPanels* m_panels = nullptr;
+    std::array<QAction*, 3> m_panelEntries{};
+    QAction* m_detailsEntry = nullptr;
+    int VolleBreite = 0;   ///< of the window with its panels, in pixels
+    bool RefOffen = false; ///< the references are the panel on top
+
+    InputFenster* m_input = nullptr;
+    ConfirmForm* m_confirm = nullptr;
+    ConfirmDlg* m_confirmKnown = nullptr;
+    ShownEntry m_shown;
+    /// Where the walk through the synonyms stands, per language. Other searches move the recordset on.
+    std::array<std::optional<dao::Recordset::BookmarkType>, 2> m_synonymPlaces;
 };
 
 } // namespace lingomat

@@ -2,6 +2,8 @@
 
 #include "FittingFont.h"
 #include "FlexGrid.h"
+#include "SynonymButtons.h"
+#include "VerdictBox.h"
 
 #include <QEvent>
 #include <QProgressBar>
@@ -86,6 +88,33 @@ void Trainer::fitVokabelnGrid() {
     m_grid->setColWidth(0, m_grid->viewport()->width());
     fitExpression(QuestionRow);
     fitExpression(SolutionRow);
+    placeOverGrid();
+}
+
+QRect Trainer::expressionLine(GridRow row) const {
+    const int top =
+        row == QuestionRow ? m_captionHeight : 2 * m_captionHeight + m_grid->RowHeight(QuestionRow);
+    return {0, top, m_grid->viewport()->width(), m_grid->RowHeight(row)};
+}
+
+void Trainer::placeOverGrid() {
+    const auto placeArrows = [this](QWidget* arrows, GridRow row) {
+        const QRect line = expressionLine(row);
+        const QSize size = arrows->sizeHint().boundedTo({line.width(), line.height()});
+        arrows->setGeometry(line.right() - size.width(), line.top() + (line.height() - size.height()) / 2,
+                            size.width(), size.height());
+    };
+    placeArrows(m_questionSynonyms, QuestionRow);
+    placeArrows(m_solutionSynonyms, SolutionRow);
+
+    // The verdict stands at the lower edge of the solution, which it leaves readable.
+    const QRect line = expressionLine(SolutionRow);
+    const QSize search = m_search->sizeHint();
+    const int top = line.bottom() - search.height();
+    m_search->setGeometry({line.right() - search.width(), top, search.width(), search.height()});
+    const int room = m_search->x() - line.left() - 2;
+    for (QWidget* const box : {static_cast<QWidget*>(m_right), static_cast<QWidget*>(m_wrong)})
+        box->setGeometry(line.left(), top, std::min(room, box->sizeHint().width()), search.height());
 }
 
 int Trainer::sharedHeight() const {
@@ -94,7 +123,11 @@ int Trainer::sharedHeight() const {
 
 void Trainer::fitExpression(GridRow row) {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_grid) + 1;
-    const QSize room(m_grid->ColWidth(0) - 2 * margin - 1, m_grid->RowHeight(row) - 1);
+    // The text stands in the middle: what lies over one side of it takes room from both.
+    const int arrows = 2 * m_questionSynonyms->sizeHint().width();
+    const bool isJudged = !m_right->isHidden() || !m_wrong->isHidden();
+    const int verdict = row == SolutionRow && isJudged ? 2 * m_search->sizeHint().height() : 0;
+    const QSize room(m_grid->ColWidth(0) - 2 * margin - 1 - arrows, m_grid->RowHeight(row) - 1 - verdict);
     QFont largest = gridFont(font().pointSizeF() * ExpressionScale);
     largest.setBold(true);
     const int before = m_grid->Row();

@@ -1,10 +1,16 @@
 #include "Trainer.h"
 
+#include "ConfirmDlg.h"
+#include "ConfirmForm.h"
 #include "FlexGrid.h"
+#include "InputFenster.h"
 #include "Resources.h"
+#include "SharedState.h"
+#include "SynonymButtons.h"
+#include "TrainerPanels.h"
+#include "VerdictBox.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QBoxLayout>
 #include <QGuiApplication>
 #include <QLabel>
@@ -22,7 +28,10 @@ namespace lingomat {
 
 namespace {
 
-constexpr QSize StartSize(720, 440);
+constexpr QSize StartSize(780, 500);
+// How display and panels share the width.
+constexpr int WalkShare = 3;
+constexpr int PanelsShare = 2;
 // Pixels, in the status bar.
 constexpr int PanelIndent = 6;
 constexpr int PanelGap = 24;
@@ -67,6 +76,17 @@ void Trainer::buildWidgets() {
     m_restart = newButton("Command6"_L1, icon("restart"_L1));
     m_close = newButton("Command4"_L1, {});
 
+    m_right = new VerdictBox(VerdictBox::Verdict::Right, u"Richtig"_s, m_grid->viewport());
+    m_wrong = new VerdictBox(VerdictBox::Verdict::Wrong, u"NichtWort"_s, m_grid->viewport());
+    m_search = new QPushButton(m_grid->viewport());
+    m_search->setObjectName(u"Suche"_s);
+    m_search->setAutoDefault(true);
+    m_search->setCursor(Qt::ArrowCursor);
+    m_search->hide();
+    m_questionSynonyms = new SynonymButtons(u"UpDown1"_s, m_grid->viewport());
+    m_solutionSynonyms = new SynonymButtons(u"UpDown2"_s, m_grid->viewport());
+    m_panels = new TrainerPanels(m_context, body);
+
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_restart);
     buttons->addStretch();
@@ -75,13 +95,24 @@ void Trainer::buildWidgets() {
     buttons->addStretch();
     buttons->addWidget(m_close);
 
-    auto* column = new QVBoxLayout(body);
-    column->addWidget(m_grid, 1);
-    column->addWidget(m_progressBar);
-    column->addLayout(buttons);
+    auto* walk = new QVBoxLayout;
+    walk->addWidget(m_grid, 1);
+    walk->addWidget(m_progressBar);
+    walk->addLayout(buttons);
+    auto* row = new QHBoxLayout(body);
+    row->addLayout(walk, WalkShare);
+    row->addWidget(m_panels, PanelsShare);
 
+    m_toolbar = new TrainerToolbar(this);
+    addToolBar(m_toolbar);
     resize(StartSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     m_step.button->setFocus();
+}
+
+void Trainer::buildDialogs() {
+    m_input = new InputFenster(m_context.state.Exceptions, this);
+    m_confirm = new ConfirmForm(this);
+    m_confirmKnown = new ConfirmDlg(this);
 }
 
 QAction* Trainer::newEntry(QMenu& menu, QLatin1StringView name, const QKeySequence& key) {
@@ -92,10 +123,9 @@ QAction* Trainer::newEntry(QMenu& menu, QLatin1StringView name, const QKeySequen
     return entry;
 }
 
-QAction* Trainer::newChoice(QMenu& menu, QActionGroup& group, QLatin1StringView name) {
+QAction* Trainer::newChoice(QMenu& menu, QLatin1StringView name) {
     QAction* choice = newEntry(menu, name, {});
     choice->setCheckable(true);
-    group.addAction(choice);
     return choice;
 }
 
@@ -107,16 +137,6 @@ void Trainer::buildMenus() {
     file.addSeparator();
     m_closeEntry = newEntry(file, "menClose"_L1, QKeySequence::Close);
 
-    QMenu& settings = *addMenu(*menuBar(), u"menEinstellungen"_s);
-    auto& orders = *new QActionGroup(this);
-    m_sequential = newChoice(settings, orders, "Reihenfolge_sequentiell"_L1);
-    m_shuffled = newChoice(settings, orders, "Reihenfolge_shuffle"_L1);
-    m_random = newChoice(settings, orders, "Reihenfolge_random"_L1);
-    settings.addSeparator();
-    auto& languages = *new QActionGroup(this);
-    m_language1First = newChoice(settings, languages, "Lang1Zuerst"_L1);
-    m_language2First = newChoice(settings, languages, "Lang2Zuerst"_L1);
-
     QMenu& navigation = *addMenu(*menuBar(), u"menNavigieren"_s);
     m_step.entry = newEntry(navigation, "menStep"_L1, Qt::Key_F8);
     navigation.addSeparator();
@@ -124,17 +144,27 @@ void Trainer::buildMenus() {
     m_back.entry = newEntry(navigation, "menEinsZurueck"_L1, Qt::Key_F7);
     m_first.entry = newEntry(navigation, "menAnfangSequenz"_L1, Qt::CTRL | Qt::Key_Home);
     m_last.entry = newEntry(navigation, "menEndeSequenz"_L1, Qt::CTRL | Qt::Key_End);
+
+    QMenu& view = *addMenu(*menuBar(), u"menAnsicht"_s);
+    m_panelEntries = {newChoice(view, "menAttribute"_L1), newChoice(view, "menDetails"_L1),
+                      newChoice(view, "menReferenzen"_L1)};
+    view.addSeparator();
+    m_detailsEntry = newEntry(view, "menDetailsjanein"_L1, Qt::Key_F4);
+
+    QMenu& extras = *addMenu(*menuBar(), u"menExtras"_s);
+    m_searchEntry = newEntry(extras, "menSucheZuletzt"_L1, Qt::Key_F3);
+    m_searchEntry->setEnabled(false);
 }
 
 void Trainer::buildStatusBar() {
     statusBar()->setObjectName(u"StatusBar1"_s);
-    for (size_t panel = 0; panel < m_panels.size(); ++panel) {
-        m_panels[panel] = new QLabel(statusBar());
-        m_panels[panel]->setObjectName(u"StatusBar1_Panel%1"_s.arg(panel + 1));
-        statusBar()->addWidget(m_panels[panel]);
+    for (size_t panel = 0; panel < m_statusPanels.size(); ++panel) {
+        m_statusPanels[panel] = new QLabel(statusBar());
+        m_statusPanels[panel]->setObjectName(u"StatusBar1_Panel%1"_s.arg(panel + 1));
+        statusBar()->addWidget(m_statusPanels[panel]);
     }
-    m_panels[PanelEntries]->setContentsMargins(0, 0, PanelGap, 0);
-    m_panels[PanelEntriesLabel]->setContentsMargins(PanelIndent, 0, 0, 0);
+    m_statusPanels[PanelEntries]->setContentsMargins(0, 0, PanelGap, 0);
+    m_statusPanels[PanelEntriesLabel]->setContentsMargins(PanelIndent, 0, 0, 0);
 }
 
 void Trainer::connectEvents() {
@@ -150,14 +180,17 @@ void Trainer::connectEvents() {
     connectCommand(m_first, &Trainer::back_Click);
     connectCommand(m_last, &Trainer::ToEnd_Click);
 
-    const auto connectOrder = [this](QAction* choice, bool Trainer::*order) {
-        connect(choice, &QAction::triggered, this, [this, order] { chooseOrder(order); });
-    };
-    connectOrder(m_sequential, &Trainer::Reihenfolge_sequentiell);
-    connectOrder(m_shuffled, &Trainer::Reihenfolge_shuffle);
-    connectOrder(m_random, &Trainer::Reihenfolge_random);
-    connect(m_language1First, &QAction::triggered, this, [this] { chooseLanguage(&Trainer::Lang1Zuerst); });
-    connect(m_language2First, &QAction::triggered, this, [this] { chooseLanguage(&Trainer::Lang2Zuerst); });
+    connect(m_toolbar, &TrainerToolbar::buttonPressed, this, &Trainer::pressOption);
+    connect(m_search, &QPushButton::clicked, this, &Trainer::Suche_Click);
+    connect(m_searchEntry, &QAction::triggered, this, &Trainer::Suche_Click);
+    connectSynonyms(*m_questionSynonyms, QuestionRow);
+    connectSynonyms(*m_solutionSynonyms, SolutionRow);
+    connect(m_input, &InputFenster::specialCharactersRequested, this,
+            [this] { Q_EMIT specialCharactersRequested(*m_input); });
+    connect(m_input, &InputFenster::mainOnlyChanged, this, [this](bool mainOnly) {
+        MainOnly = mainOnly;
+        m_toolbar->setPressed(TrainerToolbar::MainOnly, mainOnly);
+    });
 
     // Also with the focus on the display the common keys take a step.
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {

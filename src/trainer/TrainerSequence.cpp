@@ -1,11 +1,14 @@
 #include "Trainer.h"
 
+#include "EntryRecords.h"
 #include "ErrorTrap.h"
 #include "FlexGrid.h"
 #include "Globals.h"
 #include "Liste.h"
 #include "Progress.h"
 #include "SharedState.h"
+#include "TrainerPanels.h"
+#include "TrainerReferences.h"
 #include "TrainingWalk.h"
 
 #include <QLabel>
@@ -19,6 +22,8 @@ using namespace Qt::StringLiterals;
 namespace lingomat {
 
 void Trainer::Command6_Click() {
+    endSynonyms();
+    showSynonymButtons(false);
     attempt([this] { AnzahlEintraege = dao::toInteger16(m_liste.MSFlexGrid1().Rows() - 1); });
     if (Reihenfolge_shuffle)
         attempt([this] { shuffle(); });
@@ -73,6 +78,7 @@ void Trainer::Command3_Click() {
 void Trainer::revealSolution() {
     attempt([this] { ZeigeVokabel(AktuelleZeile()); });
     ZeigeLoesung = 0;
+    DoFehlerhandlingOhneSchreiben();
 }
 
 void Trainer::askNext() {
@@ -93,6 +99,8 @@ void Trainer::askNext() {
     }
     attempt([this] { ZeigeVokabel(AktuelleZeile()); });
     ZeigeLoesung = 1;
+    showSynonymButtons(true);
+    DoFehlerhandlingMitSchreiben();
 }
 
 /// An error on the way counts as an open entry, so that the step goes on behind it.
@@ -112,7 +120,7 @@ bool Trainer::SetIndexAccordingToSchleife() {
     RundenPosition = dao::toInteger16(place.roundPosition);
     if (place.left) {
         m_progressBar->setMaximum(*place.left);
-        m_panels[PanelEntries]->setText(QString::number(*place.left));
+        m_statusPanels[PanelEntries]->setText(QString::number(*place.left));
     }
     return place.isOpen;
 }
@@ -121,34 +129,38 @@ void Trainer::back_Click() {
     moveTo(1);
     if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows())
         showMovedTo();
+    showSynonymButtons(true);
 }
 
 void Trainer::ToEnd_Click() {
     moveTo(m_liste.MSFlexGrid1().Rows() - 1);
     if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows())
         showMovedTo();
+    showSynonymButtons(true);
 }
 
 void Trainer::Command1_Click() {
     moveTo(Position - 1);
     if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows()) {
         showMovedTo();
-        return;
+    } else {
+        Message beginning;
+        beginning.text = u"Beginning"_s; // the same in both languages
+        m_context.prompts.message(this, beginning);
+        Position = 1;
     }
-    Message beginning;
-    beginning.text = u"Beginning"_s; // the same in both languages
-    m_context.prompts.message(this, beginning);
-    Position = 1;
+    showSynonymButtons(true);
 }
 
 void Trainer::Command2_Click() {
     moveTo(Position + 1);
     if (Position < m_liste.MSFlexGrid1().Rows()) {
         showMovedTo();
-        return;
+    } else {
+        sayEndOfSequence();
+        --Position;
     }
-    sayEndOfSequence();
-    --Position;
+    showSynonymButtons(true);
 }
 
 /// What is reached by moving is browsed: it is shown with its solution. In random order there is no place
@@ -180,12 +192,12 @@ int Trainer::AktuelleZeile() const {
 }
 
 bool Trainer::PositioniereRecord(const QString& id) {
-    dao::Recordset& vokabular = m_context.state.DBHandler.RecordsetVokabular;
-    vokabular.FindFirst(u"ID LIKE '%1'"_s.arg(id));
-    return !vokabular.NoMatch();
+    return findEntry(m_context.state.DBHandler.RecordsetVokabular, id);
 }
 
 void Trainer::ZeigeVokabel(int row) {
+    if (!Schreiben)
+        clearVerdict();
     if (row == 0)
         clearDisplay();
     else
@@ -195,32 +207,47 @@ void Trainer::ZeigeVokabel(int row) {
 }
 
 void Trainer::clearDisplay() {
+    m_shown = {};
+    endSynonyms();
     setExpression(QuestionRow, {});
     setExpression(SolutionRow, {});
+    ClearDetails();
     m_progressBar->setRange(0, std::max<int>(AnzahlEintraege, 1));
     m_progressBar->setValue(0);
+    showSynonymButtons(false);
 }
 
 void Trainer::showEntry(int row) {
     FlexGrid& entries = m_liste.MSFlexGrid1();
-    const QString language1 = entries.TextMatrix(row, Liste::ColSprache1);
-    const QString language2 = entries.TextMatrix(row, Liste::ColSprache2);
+    const ShownEntry entry{
+        entries.TextMatrix(row, Liste::ColSchluessel),
+        {entries.TextMatrix(row, Liste::ColSprache1), entries.TextMatrix(row, Liste::ColSprache2)}};
     entries.setRow(row);
+    if (entry.key != m_shown.key)
+        endSynonyms();
+    m_shown = entry;
+    const auto& [language1, language2] = entry.expressions;
     setExpression(QuestionRow, Lang1Zuerst ? language1 : language2);
-    if (ZeigeLoesung == 1)
+    if (ZeigeLoesung == 1) {
         setExpression(SolutionRow, Lang1Zuerst ? language2 : language1);
-    else
+        showDetails(row);
+    } else {
         setExpression(SolutionRow, {});
+        ClearDetails();
+        clearVerdict();
+    }
     if (Reihenfolge_random)
         return;
     const int place = Selbsttest && Schleife ? RundenPosition : Position;
     m_progressBar->setValue(std::min(place, m_progressBar->maximum()));
-    m_panels[PanelPosition]->setText(QString::number(place));
+    m_statusPanels[PanelPosition]->setText(QString::number(place));
 }
 
 void Trainer::InitStatusBar() {
-    m_panels[PanelEntries]->setText(QString::number(m_liste.MSFlexGrid1().Rows() - 1));
-    m_panels[PanelPosition]->setText(u"0"_s);
+    const int rows = m_liste.MSFlexGrid1().Rows();
+    const bool isPlaceholder = rows == 2 && m_panels->references().heightOfRow1() == 0;
+    m_statusPanels[PanelEntries]->setText(QString::number(rows - (isPlaceholder ? 2 : 1)));
+    m_statusPanels[PanelPosition]->setText(u"0"_s);
 }
 
 void Trainer::attempt(const std::function<void()>& step) {

@@ -10,7 +10,8 @@ namespace {
 
 /// A session in loop mode.
 struct LoopBench : TrainingBench {
-    explicit LoopBench(int entries) : TrainingBench(entries) {
+    explicit LoopBench(int entries) {
+        openFileWith(entries);
         trainer.Selbsttest = true;
         trainer.Schleife = true;
         trainer.Command6_Click();
@@ -23,10 +24,9 @@ struct LoopBench : TrainingBench {
     }
 
     void answer(bool isRight) {
+        willConfirm(isRight);
         step();
         EXPECT_NE(solution(), QString());
-        if (isRight)
-            answerRight();
     }
 };
 

@@ -18,7 +18,7 @@ QString order(TrainingBench& bench) {
                          trainer.Reihenfolge_random};
     QStringList found;
     for (size_t i = 0; i < Orders.size(); ++i) {
-        EXPECT_EQ(bench.action(Orders[i]).isChecked(), members[i]) << Orders[i];
+        EXPECT_EQ(bench.option(Orders[i]).isChecked(), members[i]) << Orders[i];
         if (members[i])
             found += QString::fromLatin1(Orders[i]);
     }
@@ -50,9 +50,9 @@ TEST(Options, BeginWithTheOrderOfTheListAndLanguageOne) {
     TrainingBench bench(3);
     EXPECT_EQ(order(bench), u"Reihenfolge_sequentiell");
     EXPECT_TRUE(bench.trainer.Lang1Zuerst);
-    EXPECT_TRUE(bench.action("Lang1Zuerst").isChecked());
+    EXPECT_TRUE(bench.option("Lang1Zuerst").isChecked());
     EXPECT_FALSE(bench.trainer.Lang2Zuerst);
-    EXPECT_FALSE(bench.action("Lang2Zuerst").isChecked());
+    EXPECT_FALSE(bench.option("Lang2Zuerst").isChecked());
     EXPECT_FALSE(bench.trainer.Selbsttest);
 }
 
@@ -136,7 +136,7 @@ TEST(Options, ALanguageSwapKeepsTheSession) {
     EXPECT_EQ(bench.solution(), u"Wort 1");
     EXPECT_EQ(bench.trainer.Position, 1);
     EXPECT_EQ(bench.trainer.ZeigeLoesung, 0);
-    EXPECT_TRUE(bench.action("Lang2Zuerst").isChecked());
+    EXPECT_TRUE(bench.option("Lang2Zuerst").isChecked());
     bench.choose("Lang1Zuerst");
     EXPECT_EQ(bench.question(), u"Wort 1");
     EXPECT_EQ(bench.grid.TextMatrix(0, 0), u"German");
@@ -159,7 +159,7 @@ TEST(Options, TheLanguageThatIsOnTopAlreadyStaysThere) {
     bench.step();
     bench.choose("Lang1Zuerst");
     EXPECT_EQ(bench.question(), u"Wort 1");
-    EXPECT_TRUE(bench.action("Lang1Zuerst").isChecked());
+    EXPECT_TRUE(bench.option("Lang1Zuerst").isChecked());
 }
 
 TEST(Options, LanguagesOfANewlyOpenedFileAppearWhenTheWindowIsActivated) {
@@ -169,7 +169,7 @@ TEST(Options, LanguagesOfANewlyOpenedFileAppearWhenTheWindowIsActivated) {
     bench.trainer.Form_Activate();
     EXPECT_EQ(bench.grid.TextMatrix(0, 0), u"Deutsch");
     EXPECT_EQ(bench.grid.TextMatrix(2, 0), u"Español");
-    EXPECT_EQ(bench.action("Lang2Zuerst").text(), u"Español first");
+    EXPECT_EQ(bench.option("Lang2Zuerst").toolTip(), u"Español first");
 }
 
 TEST(Options, CommandsAreEnabledByPosition) {
@@ -194,11 +194,13 @@ TEST(Options, InRandomOrderOnlyForwardIsLeft) {
 }
 
 TEST(Options, InSelfTestNothingMovesByHand) {
-    TrainingBench bench(3);
+    TrainingBench bench;
+    bench.openFileWith(3);
     bench.trainer.Selbsttest = true;
     bench.trainer.OptionsToUI();
     expectEnabled(bench, {.back = false, .forward = false, .last = false});
     bench.step();
+    bench.willConfirm(true);
     bench.step();
     bench.step(); // at position 2
     expectEnabled(bench, {.back = false, .forward = false, .last = false});
@@ -213,4 +215,110 @@ TEST(Options, BeginningStaysReachableBehindAChoice) {
     ASSERT_TRUE(bench.button("Command1").isEnabled());
     bench.context.prompts.expect({.text = u"Beginning"});
     bench.button("Command1").click();
+}
+
+TEST(Options, WhatExcludesWhat) {
+    for (const bool selfTest : {false, true}) {
+        for (const bool random : {false, true}) {
+            for (const bool write : {false, true}) {
+                TrainingBench bench(3);
+                bench.trainer.Selbsttest = selfTest;
+                bench.trainer.Reihenfolge_sequentiell = !random;
+                bench.trainer.Reihenfolge_random = random;
+                bench.trainer.Schreiben = write;
+                bench.trainer.Schleife = true; // what they are set to does not matter
+                bench.trainer.MainOnly = true;
+                bench.trainer.OptionsToUI();
+                for (const int always : {1, 2, 3, 5, 6, 8})
+                    EXPECT_TRUE(bench.option(always).isEnabled()) << always;
+                EXPECT_EQ(bench.option("Schleife").isEnabled(), selfTest && !random);
+                EXPECT_EQ(bench.option("Schreiben").isEnabled(), selfTest);
+                EXPECT_EQ(bench.option("FehlerBestaetigen").isEnabled(), selfTest && write);
+                EXPECT_EQ(bench.option("MainOnly").isEnabled(), selfTest && write);
+                EXPECT_EQ(bench.option("Selbsttest").isChecked(), selfTest);
+                EXPECT_EQ(bench.option("Schreiben").isChecked(), write);
+                EXPECT_TRUE(bench.option("Schleife").isChecked());
+                EXPECT_TRUE(bench.option("MainOnly").isChecked());
+                EXPECT_FALSE(bench.option("FehlerBestaetigen").isChecked());
+            }
+        }
+    }
+}
+
+TEST(Options, NumbersFourAndSevenAreSeparators) {
+    TrainingBench bench(3);
+    EXPECT_FALSE(hasChild(bench.trainer, "Toolbar1_Button4"));
+    EXPECT_FALSE(hasChild(bench.trainer, "Toolbar1_Button7"));
+    EXPECT_FALSE(hasChild(bench.trainer, "Toolbar1_Button13"));
+}
+
+TEST(Options, TipsInBothLanguages) {
+    const std::pair<int, std::pair<QString, QString>> tips[]{
+        {1, {u"Vokabeln Sequentiell"_s, u"Vocabulary in sequential order"_s}},
+        {2, {u"Vokabeln Gemischt"_s, u"Vocabulary shuffled"_s}},
+        {3, {u"Zufällige Vokabelauswahl"_s, u"Vocabulary selected randomly"_s}},
+        {5, {u"German zuerst"_s, u"German first"_s}},
+        {6, {u"English zuerst"_s, u"English first"_s}},
+        {8, {u"Vokabeltest ein/ausschalten"_s, u"Switch self-test on/off"_s}},
+        {9, {u"Schleifenmodus ein/ausschalten"_s, u"Switch loop-mode on/off"_s}},
+        {10, {u"Schreibmodus ein/ausschalten"_s, u"Switch write-mode on/off"_s}},
+        {11, {u"Fehlerbestätigungsoption ein/ausschalten"_s, u"Switch error confirmation mode on/off"_s}},
+        {12, {u"Vergleich nur mit Hauptausdruck ein/aus"_s, u"Compare with main part only on/off"_s}},
+    };
+    for (const QString& language : {u"En"_s, u"De"_s}) {
+        TrainingBench bench(3, language);
+        for (const auto& [number, tip] : tips) {
+            EXPECT_EQ(bench.option(number).toolTip(), language == u"En" ? tip.second : tip.first);
+            EXPECT_EQ(bench.option(number).accessibleName(), bench.option(number).toolTip());
+            EXPECT_FALSE(bench.option(number).icon().isNull());
+        }
+    }
+}
+
+TEST(Options, WhatRestartsTheSession) {
+    const auto positionAfter = [](const char* pressed, const QList<const char*>& before) {
+        TrainingBench bench(3);
+        for (const char* option : before)
+            bench.choose(option);
+        bench.button("Command2").setEnabled(true);
+        bench.trainer.Command2_Click();
+        bench.choose(pressed);
+        return bench.trainer.Position;
+    };
+    EXPECT_EQ(positionAfter("Selbsttest", {}), 1);
+    EXPECT_EQ(positionAfter("Selbsttest", {"Selbsttest"}), 1);
+    EXPECT_EQ(positionAfter("Selbsttest", {"Selbsttest", "Schleife"}), 0);
+    EXPECT_EQ(positionAfter("Schleife", {"Selbsttest"}), 0);
+    EXPECT_EQ(positionAfter("Schleife", {"Selbsttest", "Schleife"}), 0);
+    EXPECT_EQ(positionAfter("Schreiben", {"Selbsttest"}), 1);
+    EXPECT_EQ(positionAfter("Schreiben", {"Selbsttest", "Schreiben"}), 1);
+    EXPECT_EQ(positionAfter("FehlerBestaetigen", {"Selbsttest", "Schreiben"}), 1);
+    EXPECT_EQ(positionAfter("MainOnly", {"Selbsttest", "Schreiben"}), 1);
+    EXPECT_EQ(positionAfter("Lang2Zuerst", {}), 1);
+    EXPECT_EQ(positionAfter("Reihenfolge_sequentiell", {}), 1);
+    EXPECT_EQ(positionAfter("Reihenfolge_shuffle", {}), 0);
+    EXPECT_EQ(positionAfter("Reihenfolge_random", {}), 0);
+}
+
+TEST(Options, SelfTestSwitchedOffTakesWhatDependsOnItAlong) {
+    TrainingBench bench(3);
+    for (const char* option : {"Selbsttest", "Schleife", "Schreiben", "FehlerBestaetigen", "MainOnly"}) {
+        bench.choose(option);
+        EXPECT_TRUE(bench.option(option).isChecked()) << option;
+    }
+    EXPECT_TRUE(bench.trainer.FehlerBestaetigen);
+    EXPECT_TRUE(bench.trainer.MainOnly);
+    bench.choose("Selbsttest");
+    EXPECT_FALSE(bench.trainer.Selbsttest || bench.trainer.Schleife || bench.trainer.Schreiben ||
+                 bench.trainer.FehlerBestaetigen || bench.trainer.MainOnly);
+    for (const int number : {8, 9, 10, 11, 12})
+        EXPECT_FALSE(bench.option(number).isChecked()) << number;
+}
+
+TEST(Options, WritingSwitchedOffTakesItsTwoAlong) {
+    TrainingBench bench(3);
+    for (const char* option : {"Selbsttest", "Schreiben", "FehlerBestaetigen", "MainOnly", "Schreiben"})
+        bench.choose(option);
+    EXPECT_TRUE(bench.trainer.Selbsttest);
+    EXPECT_FALSE(bench.trainer.Schreiben || bench.trainer.FehlerBestaetigen || bench.trainer.MainOnly);
 }
