@@ -91,7 +91,7 @@ QListWidget* TrainerPanels::addList(QVBoxLayout& column, const QString& label, c
     auto* list = new QListWidget(&panel);
     list->setObjectName(name);
     list->setMinimumHeight(list->fontMetrics().lineSpacing() * ListLines);
-    list->setMinimumWidth(0);
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // shares out what room there is
     column.addWidget(newLabel(panel, label, list));
     column.addWidget(list, 1);
     return list;
@@ -103,6 +103,7 @@ QPlainTextEdit* TrainerPanels::addText(QVBoxLayout& column, const QString& label
     text->setObjectName(name);
     text->setReadOnly(true);
     text->setTabChangesFocus(true);
+    text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     text->setMinimumHeight(text->fontMetrics().lineSpacing() * ListLines);
     column.addWidget(newLabel(panel, label, text));
     column.addWidget(text, 1);
@@ -136,6 +137,7 @@ QWidget* TrainerPanels::newDetails() {
     m_aenderungsdatum = newField(*panel, u"tAenderungsdatum"_s);
     m_score = newField(*panel, u"tScore"_s);
     auto* form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->addRow(newLabel(*panel, u"Label8"_s, m_eingabedatum), m_eingabedatum);
     form->addRow(newLabel(*panel, u"Label9"_s, m_aenderungsdatum), m_aenderungsdatum);
     form->addRow(newLabel(*panel, u"Label10"_s, m_score), m_score);

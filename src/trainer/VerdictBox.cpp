@@ -20,11 +20,6 @@ VerdictBox::VerdictBox(Verdict verdict, const QString& name, QWidget* parent)
     : QLabel(parent), m_verdict(verdict) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, verdict == Verdict::Right ? RightGround : WrongGround);
-    colors.setColor(QPalette::WindowText, Ink);
-    setPalette(colors);
-    setAutoFillBackground(true);
     hide();
 }
 
@@ -35,7 +30,7 @@ int VerdictBox::margin() const {
 QSize VerdictBox::sizeHint() const {
     const int line = fontMetrics().height();
     const int width = fontMetrics().horizontalAdvance(text().left(LongestShown));
-    return {width + line + 3 * margin(), line + 2 * margin()};
+    return {width + line + 5 * margin(), line + 2 * margin()};
 }
 
 QSize VerdictBox::minimumSizeHint() const {
@@ -44,6 +39,7 @@ QSize VerdictBox::minimumSizeHint() const {
 
 void VerdictBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    painter.fillRect(rect(), m_verdict == Verdict::Right ? RightGround : WrongGround);
     const int line = fontMetrics().height();
     drawSign(painter, QRectF(margin(), (height() - line) / 2.0, line, line));
     const QRect room = rect().adjusted(line + 2 * margin(), 0, -margin(), 0);

@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QLineEdit>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -477,4 +479,34 @@ TEST(Answers, TheBoxStandsExactlyOverTheSolution) {
         form.close();
     });
     bench.step();
+}
+
+TEST(Answers, TheVerdictIsToldByColourAndByASign) {
+    TrainingBench bench;
+    bench.openFileWith(2);
+    bench.trainer.show();
+    bench.beginTyping();
+    bench.type(u"word 1"_s);
+    const auto colours = [&bench](const char* name) {
+        auto& box = child<QLabel>(bench.trainer, name);
+        const QImage picture = box.grab().toImage();
+        QSet<QRgb> found;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.height(); ++x) // the sign stands at the left, in a square
+                found += picture.pixel(x, y);
+        EXPECT_LE(box.sizeHint().height(), box.height() + 4);
+        return found;
+    };
+    EXPECT_EQ(child<QLabel>(bench.trainer, "Richtig").text(), u"OK");
+    QSet<QRgb> right = colours("Richtig");
+    EXPECT_TRUE(right.contains(qRgb(0, 255, 0)));
+    EXPECT_TRUE(right.contains(qRgb(0, 0, 0)));
+    bench.type(u"wrong"_s);
+    QSet<QRgb> wrong = colours("NichtWort");
+    EXPECT_TRUE(wrong.contains(qRgb(255, 0, 0)));
+    EXPECT_TRUE(wrong.contains(qRgb(0, 0, 0)));
+    const auto& box = child<QLabel>(bench.trainer, "NichtWort");
+    EXPECT_EQ(box.x(), 0);
+    EXPECT_GE(box.width(), box.sizeHint().width()) << "all of a short answer is seen";
+    EXPECT_GT(bench.button("Suche").x(), box.x() + box.width());
 }
