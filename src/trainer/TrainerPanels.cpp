@@ -7,7 +7,6 @@
 #include "TrainerReferences.h"
 
 #include <QBoxLayout>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -79,10 +78,13 @@ TrainerPanels::TrainerPanels(FormContext& context, QWidget* parent)
     column->addWidget(m_panels, 1);
 }
 
-QLineEdit* TrainerPanels::newField(QWidget& panel, const QString& name) {
+QLineEdit* TrainerPanels::addField(QVBoxLayout& column, const QString& label, const QString& name) {
+    QWidget& panel = *column.parentWidget();
     auto* field = new QLineEdit(&panel);
     field->setObjectName(name);
     field->setReadOnly(true);
+    column.addWidget(newLabel(panel, label, field));
+    column.addWidget(field);
     return field;
 }
 
@@ -114,14 +116,10 @@ QWidget* TrainerPanels::newAttributes() {
     auto* panel = new QWidget;
     panel->setObjectName(u"picAttribute"_s);
     auto* column = new QVBoxLayout(panel);
-    m_wortart = newField(*panel, u"tWortart"_s);
-    column->addWidget(newLabel(*panel, u"Label1"_s, m_wortart));
-    column->addWidget(m_wortart);
+    m_wortart = addField(*column, u"Label1"_s, u"tWortart"_s);
     m_grammatikalisch = addList(*column, u"Label12"_s, u"lbGrammatikalisch"_s);
     m_funktional = addList(*column, u"Label13"_s, u"lbFunktional"_s);
-    m_quelle = newField(*panel, u"tQuelle"_s);
-    column->addWidget(newLabel(*panel, u"Label11"_s, m_quelle));
-    column->addWidget(m_quelle);
+    m_quelle = addField(*column, u"Label11"_s, u"tQuelle"_s);
     newLabel(*panel, u"Label3"_s, nullptr)->hide(); // the caption has two names
     return panel;
 }
@@ -133,15 +131,9 @@ QWidget* TrainerPanels::newDetails() {
     m_bereiche = addList(*column, u"Label14"_s, u"lbBereiche"_s);
     m_beispielsatz = addText(*column, u"Label6"_s, u"tBsp"_s);
     m_zusatzinfo = addText(*column, u"Label5"_s, u"tZusatzinfo"_s);
-    m_eingabedatum = newField(*panel, u"tEingabedatum"_s);
-    m_aenderungsdatum = newField(*panel, u"tAenderungsdatum"_s);
-    m_score = newField(*panel, u"tScore"_s);
-    auto* form = new QFormLayout;
-    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    form->addRow(newLabel(*panel, u"Label8"_s, m_eingabedatum), m_eingabedatum);
-    form->addRow(newLabel(*panel, u"Label9"_s, m_aenderungsdatum), m_aenderungsdatum);
-    form->addRow(newLabel(*panel, u"Label10"_s, m_score), m_score);
-    column->addLayout(form);
+    m_eingabedatum = addField(*column, u"Label8"_s, u"tEingabedatum"_s);
+    m_aenderungsdatum = addField(*column, u"Label9"_s, u"tAenderungsdatum"_s);
+    m_score = addField(*column, u"Label10"_s, u"tScore"_s);
     return panel;
 }
 

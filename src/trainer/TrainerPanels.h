@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QWidget>
-
 #include "FormContext.h"
 
-class QFormLayout;
+#include <QWidget>
+
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
@@ -42,7 +41,7 @@ private:
     [[nodiscard]] QWidget* newDetails();
     QListWidget* addList(QVBoxLayout& column, const QString& label, const QString& name);
     QPlainTextEdit* addText(QVBoxLayout& column, const QString& label, const QString& name);
-    QLineEdit* newField(QWidget& panel, const QString& name);
+    QLineEdit* addField(QVBoxLayout& column, const QString& label, const QString& name);
 
     QTabBar* m_tabs = nullptr;
     QStackedWidget* m_panels = nullptr;
