@@ -136,7 +136,7 @@ private:
     void hideProgress();
     void openSelection(const QString& criterion);
     void fillList(const QString& criterion);
-    void addRow(int row, bool last);
+    void ZeileAusDatensatz(int row, bool last);
     void handOver();
     void reportNoHits();
     void showCount(int count);

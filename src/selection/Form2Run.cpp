@@ -147,7 +147,7 @@ void Form2::fillList(const QString& criterion) {
     const dao::SteadyReading reading(m_context.state.DBHandler.Database);
 
     grid.AddItem({});
-    addRow(1, false);
+    ZeileAusDatensatz(1, false);
     selection.FindNext(criterion);
     progress.setMaximum(selection.RecordCount());
     while (!selection.NoMatch()) {
@@ -155,7 +155,7 @@ void Form2::fillList(const QString& criterion) {
         progress.setValue(position);
         progress.setStatus(label + QString::number(position));
         grid.AddItem({});
-        addRow(grid.Rows() - 1, true);
+        ZeileAusDatensatz(grid.Rows() - 1, true);
         selection.FindNext(criterion);
     }
     progress.setValue(selection.RecordCount());
@@ -163,7 +163,7 @@ void Form2::fillList(const QString& criterion) {
 }
 
 /// A row that cannot be written costs one message; the run goes on.
-void Form2::addRow(int row, bool last) {
+void Form2::ZeileAusDatensatz(int row, bool last) {
     trapped(m_context.prompts, [&] { m_liste.ZeileAusDatensatz(row, last, m_lookups); });
 }
 

@@ -277,6 +277,35 @@ TEST_P(Form, TabKeyReachesEveryControlOfThePage) {
     }
 }
 
+TEST_P(Form, TabKeyWalksFromTheTabsThroughThePageToTheButtons) {
+    bench.form.activateWindow();
+    const QStringList buttons{u"Command2"_s, u"Command1"_s, u"Command4"_s, u"Command3"_s};
+    const QList<std::pair<int, QStringList>> pages{
+        {1,
+         {u"lstQuelleLinks"_s, u"cmdAdd"_s, u"cmdRemove"_s, u"cmdAddAll"_s, u"cmdRemoveAll"_s,
+          u"lstQuelleRechts"_s}},
+        {4, {u"MinScore"_s, u"MinScoreSlider"_s, u"MaxScore"_s, u"MaxScoreSlider"_s}},
+        {7,
+         {u"Lang1Check"_s, u"Lang1Prefix"_s, u"Lang1Main"_s, u"Lang1Suffix"_s, u"Lang1Kommentar"_s,
+          u"Lang2Check"_s, u"Lang2Prefix"_s, u"Lang2Main"_s, u"Lang2Suffix"_s, u"Lang2Kommentar"_s}},
+        {9,
+         {u"txtEingabeVonTag"_s, u"txtEingabeVonMonat"_s, u"txtEingabeVonJahr"_s, u"txtEingabeBisTag"_s,
+          u"txtEingabeBisMonat"_s, u"txtEingabeBisJahr"_s, u"txtAenderungVonTag"_s, u"txtAenderungVonMonat"_s,
+          u"txtAenderungVonJahr"_s, u"txtAenderungBisTag"_s, u"txtAenderungBisMonat"_s,
+          u"txtAenderungBisJahr"_s, u"Beispielsatz"_s, u"Zusatzinfo"_s}},
+    };
+    for (const auto& [number, controls] : pages) {
+        bench.selectTab(number);
+        child<QWidget>(bench.form, "tbsOptions").setFocus();
+        QStringList walked;
+        for (qsizetype step = 0; step < controls.size() + buttons.size(); ++step) {
+            QTest::keyClick(bench.form.focusWidget(), Qt::Key_Tab);
+            walked.append(bench.form.focusWidget()->objectName());
+        }
+        EXPECT_EQ(walked, controls + buttons) << "tab " << number;
+    }
+}
+
 TEST_P(Form, WalkingThroughAMenuLeavesTheCountInTheStatusBar) {
     const QString before = bench.statusText();
     EXPECT_FALSE(before.isEmpty());
