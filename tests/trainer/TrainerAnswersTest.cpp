@@ -409,13 +409,18 @@ TEST(Answers, RowAndScoreAreTheSameInEveryOrderAlsoAfterSorting) {
         bench.draw({3});
         bench.trainer.Selbsttest = true;
         bench.step();
-        bench.list.MSFlexGrid1().setCol(Liste::ColSprache1);
+        FlexGrid& rows = bench.list.MSFlexGrid1();
+        for (int row = 1; row <= 3; ++row)
+            rows.setTextMatrix(row, Liste::ColWortart, QString::number(9 - row));
+        rows.setCol(Liste::ColWortart);
+        rows.Sort(); // the other way round
+        ASSERT_EQ(rows.TextMatrix(1, Liste::ColSprache1), u"Wort 3");
         bench.willConfirm(true);
         bench.step();
         const QString word = bench.question().mid(5);
         for (int row = 1; row <= 3; ++row) {
             EXPECT_EQ(bench.stored(row), QString::number(row) == word ? u"2"_s : u"3"_s) << order;
-            EXPECT_EQ(bench.score(row), bench.stored(row));
+            EXPECT_EQ(bench.score(4 - row), bench.stored(row));
         }
     }
 }
