@@ -75,6 +75,7 @@ bool Form2::mayDropUnsavedRows() {
         this, uiText(u"Es wurden noch nicht alle Änderungen gesichert! Wirklich fortsetzen?"_s,
                      u"Not all changes have been saved! Do you really want to proceed?"_s));
     if (!proceed) {
+        m_liste.setWindowState(m_liste.windowState() & ~Qt::WindowMinimized);
         m_liste.show();
         m_liste.raise();
         m_liste.activateWindow();

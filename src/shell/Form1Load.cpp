@@ -205,6 +205,7 @@ void Form1::endLoadWithoutDatabase() {
 }
 
 void Form1::screenCheck() {
+    loadForm2(); // it has its size from then on
     const QWidget& form = m_forms.form2;
     const QSize needed = form.size().expandedTo(form.minimumSizeHint());
     if (screenTooSmall(m_surroundings.workArea(), needed))
