@@ -69,6 +69,7 @@ void Dynaset::useCriterion(const QString& criterion) {
     m_findValues = boundValues(find->parameters, literals);
     m_find = std::move(find);
     m_criterion = criterion;
+    m_asked.assign(plan().columns.size(), false);
     m_run.valid = false;
 }
 
@@ -90,6 +91,8 @@ void Dynaset::readRun(const QByteArray& sql, qint64 lowest, qint64 highest, int 
     m_run.keys.clear();
     m_run.rows.clear();
     m_run.limit = limit;
+    // Ahead, only what the walk has asked of the rows before: most walks look at a field or two.
+    m_run.held = limit > 1 ? m_asked : std::vector<bool>();
     const StatementRun run(connection().statement(sql));
     run->bind(1, lowest);
     run->bind(2, highest);
@@ -97,7 +100,7 @@ void Dynaset::readRun(const QByteArray& sql, qint64 lowest, qint64 highest, int 
     bindAll(*run, 4, m_findValues);
     while (run->step()) {
         m_run.keys.push_back(run->integer(0));
-        m_run.rows.append(*run, 1);
+        m_run.rows.append(*run, 1, m_run.held);
     }
     m_run.complete = static_cast<int>(m_run.keys.size()) < limit;
     m_run.changes = table().changes;
@@ -154,8 +157,12 @@ std::optional<std::size_t> Dynaset::findBackward(SearchRange range) {
 void Dynaset::load() {
     requireRow();
     const qint64 key = m_keys[position];
-    if (m_loaded.set != nullptr && m_loaded.key == key && m_loaded.changes == table().changes)
-        return;
+    if (m_loaded.set == nullptr || m_loaded.key != key || m_loaded.changes != table().changes)
+        loadSingle();
+}
+
+void Dynaset::loadSingle() {
+    const qint64 key = m_keys[position];
     m_single.clear();
     const StatementRun run(connection().statement(plan().rowSql));
     run->bind(1, key);
@@ -169,6 +176,11 @@ Value Dynaset::value(int column) {
     if (m_work != Work::None)
         return m_values[static_cast<std::size_t>(column)];
     load();
+    const auto index = static_cast<std::size_t>(column);
+    if (!m_asked.empty())
+        m_asked[index] = true;
+    if (m_loaded.set == &m_run.rows && !m_run.held.empty() && !m_run.held[index])
+        loadSingle();
     return m_loaded.set->value(m_loaded.index, column);
 }
 

@@ -35,7 +35,8 @@ private:
         qint64 from = 0; ///< lowest key that it covers
         std::vector<qint64> keys;
         RowSet rows;
-        bool complete = false; ///< nothing matches behind its last row
+        std::vector<bool> held; ///< columns that `rows` holds; empty: all
+        bool complete = false;  ///< nothing matches behind its last row
         bool valid = false;
         quint64 changes = 0; ///< of the table, when it was read
         int limit = 1;
@@ -56,6 +57,7 @@ private:
     [[nodiscard]] bool runCovers(qint64 key) const;
     void readRun(const QByteArray& sql, qint64 lowest, qint64 highest, int limit);
     void load();
+    void loadSingle();
     void insertRow();
     void updateRow();
     void rowWritten(qint64 key);
@@ -66,6 +68,7 @@ private:
     QString m_criterion;
     std::shared_ptr<const FindPlan> m_find;
     std::vector<Value> m_findValues;
+    std::vector<bool> m_asked; ///< columns that were read of the rows found so far
     Run m_run;
     RowSet m_single;
     LoadedRow m_loaded;

@@ -80,6 +80,8 @@ void Dynaset::addNew() {
 void Dynaset::edit() {
     m_work = Work::None;
     load();
+    if (m_loaded.set == &m_run.rows && !m_run.held.empty())
+        loadSingle();
     const std::size_t columns = plan().columns.size();
     m_values.clear();
     for (std::size_t i = 0; i < columns; ++i)

@@ -171,12 +171,16 @@ private:
 
 } // namespace
 
-int SelectPlan::findColumn(QStringView name) const {
-    const int plain = findIn(columns, {}, name);
-    if (plain != UnknownColumn)
-        return plain;
+int SelectPlan::findColumn(const QString& name) const {
+    if (const auto known = m_columnNumbers.constFind(name); known != m_columnNumbers.constEnd())
+        return *known;
+    int number = findIn(columns, {}, name);
     const qsizetype dot = name.indexOf(u'.');
-    return dot <= 0 ? UnknownColumn : findIn(columns, name.first(dot), name.sliced(dot + 1));
+    if (number == UnknownColumn && dot > 0)
+        number = findIn(columns, QStringView(name).first(dot), QStringView(name).sliced(dot + 1));
+    if (number >= 0) // of other names there is no end
+        m_columnNumbers.insert(name, number);
+    return number;
 }
 
 PlanMemo<FindPlan>::Hit SelectPlan::findPlan(const QString& criterion) const {

@@ -6,6 +6,7 @@
 #include "PlanMemo.h"
 #include "SqlCompiler.h"
 
+#include <QHash>
 #include <QString>
 
 #include <memory>
@@ -37,13 +38,14 @@ struct SelectPlan {
     std::vector<criteria::Parameter> parameters;
 
     /// Position of a column of the result by name, `field` or `table.field`; -1 unknown, -2 ambiguous.
-    [[nodiscard]] int findColumn(QStringView name) const;
+    [[nodiscard]] int findColumn(const QString& name) const;
     /// The compiled criterion and its literals; errors 3070, 3077, 3079, 3421.
     [[nodiscard]] PlanMemo<FindPlan>::Hit findPlan(const QString& criterion) const;
 
 private:
     [[nodiscard]] std::shared_ptr<const FindPlan> compileFind(const criteria::LexedText& text) const;
 
+    mutable QHash<QString, int> m_columnNumbers; ///< of the names that were looked up
     mutable PlanMemo<FindPlan> m_memo;
     mutable std::unordered_map<std::u16string, std::shared_ptr<const FindPlan>> m_findPlans; ///< by shape
 };

@@ -10,10 +10,14 @@ void RowSet::clear() {
     m_text.resize(0); // keeps the buffer
 }
 
-void RowSet::append(const Statement& statement, int firstColumn) {
+void RowSet::append(const Statement& statement, int firstColumn, const std::vector<bool>& wanted) {
     for (std::size_t i = 0; i < m_columns; ++i) {
         const int column = firstColumn + static_cast<int>(i);
         Cell cell{Kind::Null, 0, {0}};
+        if (!wanted.empty() && !wanted[i]) {
+            m_cells.push_back(cell);
+            continue;
+        }
         switch (statement.columnType(column)) {
         case SQLITE_NULL: break;
         case SQLITE_INTEGER:

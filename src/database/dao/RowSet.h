@@ -15,8 +15,9 @@ public:
     explicit RowSet(int columns) : m_columns(static_cast<std::size_t>(columns)) {}
 
     void clear();
-    /// Appends the statement's present row, from the given column on.
-    void append(const Statement& statement, int firstColumn);
+    /// Appends the statement's present row, from the given column on. Columns that are not wanted stay Null;
+    /// an empty `wanted` stands for all.
+    void append(const Statement& statement, int firstColumn, const std::vector<bool>& wanted = {});
 
     [[nodiscard]] std::size_t size() const { return m_rows; }
     [[nodiscard]] criteria::CellView cell(std::size_t row, int column) const;

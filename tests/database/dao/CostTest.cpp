@@ -167,6 +167,25 @@ TEST_F(Cost, ReadingTheFieldsOfARowTakesOneStatement) {
               1);
 }
 
+TEST_F(Cost, AColumnThatAWalkAsksForLateIsStillRead) {
+    Recordset words = this->words();
+    const QString every = u"ID LIKE '*'"_s;
+    words.FindFirst(every);
+    for (int row = 1; row < 200; ++row) {
+        EXPECT_EQ(words.field(0), Value(row));
+        words.FindNext(every);
+    }
+    EXPECT_EQ(words.field(u"Main"_s), Value(u"w200"_s));
+    EXPECT_EQ(words.field(u"VID"_s), Value(100));
+    words.FindNext(every);
+    words.Edit();
+    EXPECT_EQ(words.field(u"Main"_s), Value(u"w201"_s));
+    words.setField(u"Score"_s, 3);
+    words.Update();
+    EXPECT_EQ(words.field(u"Main"_s), Value(u"w201"_s));
+    EXPECT_EQ(words.field(u"Score"_s), Value(3));
+}
+
 TEST_F(Cost, OpeningReadsOnlyTheKeys) {
     const qint64 opening = steps([&] { (void)words(); });
     EXPECT_LT(opening, Rows * 8);
