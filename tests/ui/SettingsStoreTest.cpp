@@ -254,7 +254,7 @@ TEST(SettingsStore, AFileThatIsNoneIsReportedAndStays) {
 TEST(SettingsStore, ADamagedFileIsReadAsFarAsItGoes) {
     TestContext context;
     QDir().mkpath(context.path(u"settings"_s));
-    const QByteArray damaged = QByteArray("[S]\nk=v\n\x80\x81\x00\xFF garbage\n[T]\nx=y\n", 31);
+    const QByteArray damaged = QByteArray("[S]\nk=v\n\x80\x81\x00\xFF garbage\n[T]\nx=y\n", 29);
     write(context.path(u"settings/LMT.ini"_s), damaged);
     EXPECT_EQ(context.settings.GetSetting(App, u"S"_s, u"k"_s), u"v"_s);
     EXPECT_EQ(context.settings.GetSetting(App, u"T"_s, u"x"_s), u"y"_s);
