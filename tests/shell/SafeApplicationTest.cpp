@@ -41,7 +41,7 @@ CurrentPrompts prompts;
 
 class ClumsyWidget final : public QWidget {
 protected:
-    void mousePressEvent(QMouseEvent* /*event*/) override { throw std::runtime_error("clumsy"); }
+    void customEvent(QEvent* /*event*/) override { throw std::runtime_error("clumsy"); }
 };
 
 TEST(SafeApplication, ExceptionOfASlotIsToldAndTheProgramGoesOn) {
@@ -59,7 +59,9 @@ TEST(SafeApplication, ExceptionOfAnEventHandlerIsToldToo) {
     prompts.current = &script;
     script.expectError(u"clumsy"_s);
     ClumsyWidget widget;
-    QTest::mouseClick(&widget, Qt::LeftButton);
+    // Not a click: what the toolkit holds while it delivers one leaks when an exception passes through it.
+    QEvent event(QEvent::User);
+    EXPECT_TRUE(QCoreApplication::sendEvent(&widget, &event));
 }
 
 TEST(SafeApplication, ErrorThatWasReportedIsPassedOver) {
