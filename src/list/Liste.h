@@ -2,12 +2,13 @@
 
 #include "FormContext.h"
 #include "ListColumns.h"
+#include "RowMark.h"
 
 #include <QMainWindow>
-#include <QPixmap>
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QAction;
 class QMenu;
@@ -109,8 +110,7 @@ private:
                        const QString& criterion);
     void writeText(int row, int column, const QString& field, int limit);
     void writeDate(int row, int displayColumn, int keyColumn, const QString& field);
-    void clearMark(int row);
-    [[nodiscard]] const QPixmap& markPicture();
+    [[nodiscard]] RowMark& mark();
 
     static constexpr int KeptWidths = ColScore - ColSprache1 + 1;
 
@@ -120,7 +120,7 @@ private:
     QMenu* m_columnMenu = nullptr;
     std::array<QAction*, ListColumnCount> m_columnEntries{};
     std::array<qint16, KeptWidths> SpaltenBreiten{};
-    QPixmap m_mark;
+    std::optional<RowMark> m_mark;
 };
 
 } // namespace lingomat

@@ -267,10 +267,11 @@ bool frmVokabelEingabe::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
-void frmVokabelEingabe::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (event->spontaneous())
+void frmVokabelEingabe::setVisible(bool visible) {
+    QDialog::setVisible(visible);
+    if (!visible)
         return;
+    // Only now: a dialog that comes up gives its first field the focus as the Tab key does, all selected.
     m_fields[1]->setFocus();
     m_fields[1]->end(false); // behind what was typed in the list
 }

@@ -52,10 +52,10 @@ public:
     [[nodiscard]] bool InitSynonymeList();
     void ConditionToUI();
     void SetUserInterfaceProperties();
+    void setVisible(bool visible) override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void buildWidgets();

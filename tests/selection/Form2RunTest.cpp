@@ -137,6 +137,21 @@ TEST_F(SelectionRun, LeavesEverythingReadyForTheTrainer) {
     EXPECT_FALSE(cursorIsBusy());
 }
 
+TEST_F(SelectionRun, RestartsTheTrainerOnTheNewRows) {
+    bench.run();
+    EXPECT_EQ(bench.trainer.AnzahlEintraege, 5);
+    bench.trainer.Command2_Click();
+    EXPECT_EQ(bench.trainer.Position, 1);
+    bench.type("Lang1Main", u"Haus*"_s);
+    bench.run();
+    EXPECT_EQ(bench.trainer.AnzahlEintraege, 2);
+    EXPECT_EQ(bench.trainer.Position, 0);
+    bench.type("Lang1Main", u"nothing"_s);
+    prompts.expectExclamation(u"There were no entries found.");
+    bench.run();
+    EXPECT_EQ(bench.trainer.AnzahlEintraege, 2) << "a run without a hit does not tell the Trainer";
+}
+
 TEST_F(SelectionRun, SetsSelectionValidBeforeItTellsTheMainWindow) {
     bool validWhenTold = false;
     QObject::connect(&bench.form, &Form2::selectionMade, &bench.form,

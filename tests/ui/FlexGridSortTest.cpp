@@ -47,6 +47,17 @@ TEST(GridSort, IsStableAndBlindToCase) {
     EXPECT_EQ(column(grid, 2), QStringList({u"1"_s, u"2"_s, u"4"_s, u"0"_s, u"3"_s}));
 }
 
+TEST(GridSort, IsStableInALongList) {
+    FlexGrid grid;
+    QStringList texts;
+    for (int i = 0; i < 500; ++i)
+        texts.append(i % 2 ? u"noun"_s : u"NOUN"_s);
+    fill(grid, texts);
+    grid.Sort();
+    for (int i = 0; i < 500; ++i)
+        ASSERT_EQ(grid.TextMatrix(i + 1, 2), QString::number(i));
+}
+
 TEST(GridSort, PutsUmlautsBesideTheirLetter) {
     for (const QString& name : {u"De"_s, u"En"_s}) {
         const InterfaceLanguage language(name);

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -48,6 +50,17 @@ TEST(ValueLists, CaseMakesTwoValuesAndNeverThree) {
         context.values.AddToComboBoxes(value, u"Bereich"_s);
     EXPECT_EQ(context.values.values(u"Bereich"_s),
               QStringList({u"APFEL"_s, u"Apfel"_s, u"apfel"_s, u"Äpfel"_s, u"Banane"_s, u"banane"_s}));
+}
+
+TEST(ValueLists, TheOrderDoesNotDependOnWhatCameFirst) {
+    const QStringList ordered{u"APFEL"_s, u"Apfel"_s, u"apfel"_s};
+    QStringList coming = ordered;
+    do {
+        TestContext context;
+        for (const QString& value : std::as_const(coming))
+            context.values.AddToComboBoxes(value, u"Bereich"_s);
+        EXPECT_EQ(context.values.values(u"Bereich"_s), ordered);
+    } while (std::next_permutation(coming.begin(), coming.end()));
 }
 
 TEST(ValueLists, EveryKindHasItsOwnList) {

@@ -121,6 +121,46 @@ TEST_F(Find, ManyRowsAreAllMetOnceAndInOrder) {
     EXPECT_EQ(count, 997);
 }
 
+// A walk reads ahead what it was asked for before; that must not show.
+TEST_F(Find, AFieldThatAWalkHasNotAskedForSoFarIsReadAllTheSame) {
+    RawFile(file()).run(u"WITH RECURSIVE n(i) AS (SELECT 9 UNION ALL SELECT i + 1 FROM n WHERE i < 400) "
+                        "INSERT INTO Wort SELECT i, 'w' || i, 't' || (i % 9), i % 7, i % 3 FROM n"_s);
+    Recordset recordset = words();
+    const QString criterion = u"Main LIKE 'w*'"_s;
+    int id = 9;
+    for (recordset.FindFirst(criterion); !recordset.NoMatch(); recordset.FindNext(criterion), ++id) {
+        ASSERT_EQ(recordset.field(u"ID"_s), Value(id));
+        if (id % 50 != 0)
+            continue;
+        EXPECT_EQ(main(recordset), u"w"_s + QString::number(id));
+        EXPECT_EQ(recordset.field(u"Typ"_s).toText(), u"t"_s + QString::number(id % 9));
+        EXPECT_EQ(recordset.field(u"Score"_s), Value(id % 7));
+    }
+    EXPECT_EQ(id, 401);
+}
+
+TEST_F(Find, ARowFoundOnAWalkIsEditedWhole) {
+    RawFile(file()).run(u"WITH RECURSIVE n(i) AS (SELECT 9 UNION ALL SELECT i + 1 FROM n WHERE i < 200) "
+                        "INSERT INTO Wort SELECT i, 'w' || i, 'typ', i % 7, i % 3 FROM n"_s);
+    Recordset recordset = words();
+    const QString criterion = u"Main LIKE 'w*'"_s;
+    for (recordset.FindFirst(criterion); recordset.field(0) != Value(150); recordset.FindNext(criterion)) {
+    }
+    recordset.Edit();
+    EXPECT_EQ(main(recordset), u"w150");
+    EXPECT_EQ(recordset.field(u"Typ"_s).toText(), u"typ");
+    recordset.setField(u"Score"_s, 12);
+    EXPECT_EQ(recordset.field(u"VID"_s), Value(0));
+    recordset.Update();
+    EXPECT_EQ(RawFile(file()).lines(u"SELECT * FROM Wort WHERE ID = 150"_s),
+              QStringList{u"150 | w150 | typ | 12 | 0"_s});
+    recordset.FindNext(criterion);
+    EXPECT_EQ(recordset.field(0), Value(151));
+    recordset.Delete();
+    recordset.FindNext(criterion);
+    EXPECT_EQ(main(recordset), u"w152");
+}
+
 TEST_F(Find, CriteriaMayAlternateDuringAWalk) {
     Recordset recordset = words();
     recordset.FindFirst(u"Main LIKE 'h*'"_s);

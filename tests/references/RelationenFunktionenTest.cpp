@@ -1,5 +1,5 @@
 #include "RelationenFunktionen.h"
-#include "SelectionBench.h"
+#include "ReferencesBench.h"
 
 #include <gtest/gtest.h>
 
@@ -21,14 +21,12 @@ const QStringList englishTypes{
 } // namespace
 
 TEST(ReferenceTypes, OfADatabaseWithoutReferencesAreTheSevenFixedNames) {
-    SelectionBench bench;
-    bench.openDatabase();
+    ReferencesBench bench;
     EXPECT_EQ(referenceTypes(bench.context.state), englishTypes);
 }
 
 TEST(ReferenceTypes, AreGermanInGerman) {
-    SelectionBench bench(u"De"_s);
-    bench.openDatabase();
+    ReferencesBench bench(u"De"_s);
     EXPECT_EQ(referenceTypes(bench.context.state),
               (QStringList{u"Abgeleitet bzw. Grundform von"_s, u"Gegenteil von"_s, u"Siehe auch"_s,
                            u"Andere Bedeutung für Ausdruck auf German"_s,
@@ -38,10 +36,9 @@ TEST(ReferenceTypes, AreGermanInGerman) {
 }
 
 TEST(ReferenceTypes, FollowTheFixedNamesOnceEach) {
-    SelectionBench bench;
-    bench.openDatabase();
-    const QString a = bench.add({.main1 = u"a"_s});
-    const QString b = bench.add({.main1 = u"b"_s});
+    ReferencesBench bench;
+    const QString a = bench.add(u"a"_s);
+    const QString b = bench.add(u"b"_s);
     for (const char16_t* type : {u"Rhymes with", u"See also", u" Rhymes with ", u"rhymes with", u"   "})
         bench.addReference(a, b, QString::fromUtf16(type));
     EXPECT_EQ(referenceTypes(bench.context.state),
@@ -49,6 +46,6 @@ TEST(ReferenceTypes, FollowTheFixedNamesOnceEach) {
 }
 
 TEST(ReferenceTypes, WithoutADatabaseAreTheFixedNames) {
-    SelectionBench bench;
-    EXPECT_EQ(referenceTypes(bench.context.state).first(), u"Derived from"_s);
+    TestContext context;
+    EXPECT_EQ(referenceTypes(context.state).first(), u"Derived from"_s);
 }
