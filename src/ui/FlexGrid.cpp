@@ -143,7 +143,26 @@ QString FlexGrid::Text() const {
 
 void FlexGrid::setText(const QString& text) {
     m_d->currentRow().setText(m_d->current.col, text);
+    if (m_d->fill == Fill::Repeat)
+        m_d->fillSelection(text);
     m_d->contentsChanged();
+}
+
+void FlexGrid::Private::fillSelection(const QString& text) {
+    const auto [firstRow, lastRow] = std::minmax(current.row, selectionEnd.row);
+    const auto [firstCol, lastCol] = std::minmax(current.col, selectionEnd.col);
+    for (int row = firstRow; row <= lastRow; ++row) {
+        for (int col = firstCol; col <= lastCol; ++col)
+            model.row(row).setText(col, text);
+    }
+}
+
+FlexGrid::Fill FlexGrid::FillStyle() const {
+    return m_d->fill;
+}
+
+void FlexGrid::setFillStyle(Fill style) {
+    m_d->fill = style;
 }
 
 QString FlexGrid::TextMatrix(int row, int col) const {
@@ -289,6 +308,11 @@ int FlexGrid::TopRow() const {
 void FlexGrid::setTopRow(int row) {
     m_d->pendingTopRow = std::clamp(row, FixedRows(), std::max(FixedRows(), Rows() - 1));
     m_d->later();
+}
+
+void FlexGrid::showCell() {
+    m_d->flush();
+    m_d->scrollIntoView(m_d->current);
 }
 
 int FlexGrid::CellLeft() const {

@@ -47,7 +47,10 @@ public:
 
     // Contents.
     [[nodiscard]] QString Text() const;
-    void setText(const QString& text);
+    void setText(const QString& text); ///< of the current cell, or of the whole selection: see FillStyle
+    enum class Fill { Single, Repeat };
+    [[nodiscard]] Fill FillStyle() const; ///< what a new text goes into; Single: the current cell only
+    void setFillStyle(Fill style);
     [[nodiscard]] QString TextMatrix(int row, int col) const; ///< any cell, without moving
     void setTextMatrix(int row, int col, const QString& text);
     /// Appends a row; the text's tabs part its cells, from column 0 on.
@@ -71,6 +74,7 @@ public:
     void setColAlignment(int col, int alignment); ///< 0 or 1 left, 4 centre, 7 right
     [[nodiscard]] int TopRow() const;             ///< first data row in view
     void setTopRow(int row);                      ///< as far down as the last rows still fill the view
+    void showCell();                              ///< scrolls the current cell into view
     // Place of the current cell within this widget.
     [[nodiscard]] int CellLeft() const;
     [[nodiscard]] int CellTop() const;
@@ -95,6 +99,9 @@ public:
     [[nodiscard]] int MouseCol() const; ///< column under the mouse; the last one where it is right of all
     [[nodiscard]] int MouseRow() const; ///< row under the mouse; the last one where it is below all
 
+    /// Whether input methods may compose in a cell. Their events come to this widget, for who watches it.
+    void setTakesInputMethods(bool takes);
+
     /// Brings the view in line with the contents now.
     void flush();
 
@@ -103,10 +110,11 @@ public:
 Q_SIGNALS:
     // The base class's pressed() and clicked() come for cells, pressed() for the margin as well.
 
-    void EnterCell(); ///< the user has moved to another cell, which is the current one now
-    void LeaveCell(); ///< the user is about to leave the current cell
-    void SelChange(); ///< the user has changed the current cell or the selection
-    void Scroll();
+    void EnterCell();            ///< the user has moved to another cell, which is the current one now
+    void LeaveCell();            ///< the user is about to leave the current cell
+    void SelChange();            ///< the user has changed the current cell or the selection
+    void Scroll();               ///< the view is moving under the user's hand
+    void ScrollEnd();            ///< it has come to rest: the mouse button is up again, where it was down
     void mouseMoved();           ///< MouseCol and MouseRow tell where
     void headerClicked(int col); ///< Col has moved there already
 
@@ -122,6 +130,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
     class Private;

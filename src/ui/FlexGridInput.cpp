@@ -1,9 +1,11 @@
 #include "FlexGridPrivate.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <cstdlib>
@@ -46,11 +48,16 @@ GridBounds FlexGrid::Private::bounds() const {
             .pageRows = (bottom < 0 ? model.rows() : bottom) - top};
 }
 
+/// A cell that is wider than the view shows its beginning.
+void FlexGrid::Private::scrollIntoView(GridCell cell) {
+    q.scrollTo(model.itemOf(cell.row, cell.col), QAbstractItemView::EnsureVisible);
+}
+
 void FlexGrid::Private::moveByUser(GridCell to, bool extend) {
     const auto show = [this](GridCell cell) {
         flush();
         userScrolls = true;
-        q.scrollTo(model.itemOf(cell.row, cell.col), QAbstractItemView::EnsureVisible);
+        scrollIntoView(cell);
         userScrolls = false;
     };
 
@@ -97,6 +104,16 @@ GridCell FlexGrid::Private::cellAt(QPoint position) const {
 void FlexGrid::Private::noteMouse(GridCell cell) {
     mouse = cell;
     Q_EMIT q.mouseMoved();
+}
+
+/// The press may have scrolled the view under the mouse: only a mouse that moves to another cell drags.
+bool FlexGrid::Private::dragsTo(QPoint position) {
+    if (!pressed)
+        return false;
+    const bool hasMoved =
+        (position - pressed->position).manhattanLength() >= QApplication::startDragDistance();
+    pressed->drags = pressed->drags || (hasMoved && cellAt(position) != pressed->cell);
+    return pressed->drags;
 }
 
 GridCell FlexGrid::Private::dragTarget(QPoint position) const {
@@ -153,9 +170,10 @@ void FlexGrid::mousePressEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(position);
     if (!index.isValid())
         return;
-    m_d->pressed = index;
+    const QPersistentModelIndex item(index); // who hears of it may take rows away
+    m_d->pressed = {item, m_d->mouse, position};
     m_d->moveByUser(m_d->mouse, event->modifiers().testFlag(Qt::ShiftModifier));
-    Q_EMIT pressed(*m_d->pressed);
+    Q_EMIT pressed(item);
 }
 
 void FlexGrid::mouseMoveEvent(QMouseEvent* event) {
@@ -172,7 +190,7 @@ void FlexGrid::mouseMoveEvent(QMouseEvent* event) {
             viewport()->unsetCursor();
     }
     m_d->noteMouse(m_d->cellAt(position));
-    if (m_d->pressed && event->buttons().testFlag(Qt::LeftButton))
+    if (m_d->dragsTo(position) && event->buttons().testFlag(Qt::LeftButton))
         m_d->moveByUser(m_d->dragTarget(position), true);
 }
 
@@ -181,10 +199,10 @@ void FlexGrid::mouseReleaseEvent(QMouseEvent* event) {
         return;
     m_d->flush();
     m_d->borderDrag.reset();
-    const auto wasPressed = std::exchange(m_d->pressed, std::nullopt);
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (wasPressed && index.isValid() && *wasPressed == index)
-        Q_EMIT clicked(index);
+    const bool dragged = m_d->dragsTo(event->position().toPoint());
+    const auto press = std::exchange(m_d->pressed, std::nullopt);
+    if (press && !dragged && press->item.isValid())
+        Q_EMIT clicked(press->item);
 }
 
 void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -194,8 +212,21 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT doubleClicked(index);
 }
 
+void FlexGrid::Private::holdBar(bool held) {
+    barIsHeld = held;
+    if (held || !std::exchange(scrollingHeld, false))
+        return;
+    // The bar has yet to see the release. It would scroll on below a question that comes up now.
+    QMetaObject::invokeMethod(&q, &FlexGrid::ScrollEnd, Qt::QueuedConnection);
+}
+
 bool FlexGrid::eventFilter(QObject* watched, QEvent* event) {
     const bool isPress = event->type() == QEvent::MouseButtonPress;
+    if (watched == horizontalScrollBar() || watched == verticalScrollBar()) {
+        if (isPress || event->type() == QEvent::MouseButtonRelease)
+            m_d->holdBar(isPress);
+        return QTableView::eventFilter(watched, event);
+    }
     if (!isPress && event->type() != QEvent::MouseMove)
         return QTableView::eventFilter(watched, event);
 

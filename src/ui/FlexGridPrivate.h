@@ -35,8 +35,12 @@ public:
     void clickHeader(int col);
     void pressMargin(int row);
     void noteMouse(GridCell cell);
+    void scrollIntoView(GridCell cell);
+    void holdBar(bool held);
     /// The cell at a point of the viewport; the last row or column where it is beyond all.
     [[nodiscard]] GridCell cellAt(QPoint position) const;
+    /// Whether the mouse, at that point of the viewport with the button still down, drags.
+    bool dragsTo(QPoint position);
     /// Where a drag to that point, possibly outside the viewport, spreads the selection to.
     [[nodiscard]] GridCell dragTarget(QPoint position) const;
     [[nodiscard]] GridBounds bounds() const;
@@ -47,10 +51,19 @@ public:
     /// The current cell, checked.
     [[nodiscard]] const GridRow& currentRow() const;
     [[nodiscard]] GridRow& currentRow();
+    void fillSelection(const QString& text);
     /// Keeps the current cell and the selection within the grid.
     void clampCursor();
     [[nodiscard]] int widthOf(int col) const;
     [[nodiscard]] int heightOf(int row) const;
+
+    /// Where the left button went down.
+    struct Press {
+        QPersistentModelIndex item;
+        GridCell cell;
+        QPoint position; ///< in the viewport
+        bool drags = false;
+    };
 
     /// A row whose height the user is dragging.
     struct BorderDrag {
@@ -68,10 +81,14 @@ public:
     GridCell mouse;
     bool colsResizable = true;
     bool rowsResizable = false;
-    bool userScrolls = false;                     ///< the next change of a scroll bar is the user's
-    std::optional<int> pendingTopRow;             ///< taken over when the grid is on the screen
-    std::optional<QPersistentModelIndex> pressed; ///< where the left button went down
+    bool userScrolls = false;         ///< the next change of a scroll bar is the user's
+    std::optional<int> pendingTopRow; ///< taken over when the grid is on the screen
+    std::optional<Press> pressed;
     std::optional<BorderDrag> borderDrag;
+    Fill fill = Fill::Single;
+    bool takesInputMethods = false;
+    bool barIsHeld = false;     ///< by the mouse
+    bool scrollingHeld = false; ///< that has moved the view
 
 private:
     void applyShape();

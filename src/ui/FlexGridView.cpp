@@ -89,9 +89,14 @@ void FlexGrid::Private::watchScrolling(QScrollBar& bar) {
             userScrolls = true; // the value follows
     });
     QObject::connect(&bar, &QScrollBar::valueChanged, &q, [this] {
-        if (std::exchange(userScrolls, false))
-            Q_EMIT q.Scroll();
+        if (!std::exchange(userScrolls, false))
+            return;
+        Q_EMIT q.Scroll();
+        scrollingHeld = barIsHeld;
+        if (!barIsHeld)
+            Q_EMIT q.ScrollEnd();
     });
+    bar.installEventFilter(&q);
 }
 
 void FlexGrid::Private::later() {
@@ -285,8 +290,21 @@ void FlexGrid::showEvent(QShowEvent* event) {
     m_d->later();
 }
 
+void FlexGrid::setTakesInputMethods(bool takes) {
+    m_d->takesInputMethods = takes;
+    setAttribute(Qt::WA_InputMethodEnabled, takes);
+}
+
+// The base class switches input methods off for cells that it does not edit itself.
+
+void FlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    setAttribute(Qt::WA_InputMethodEnabled, m_d->takesInputMethods);
+}
+
 void FlexGrid::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled, m_d->takesInputMethods);
     m_d->cursorChanged(); // the frame of the current cell tells the focus
 }
 

@@ -69,6 +69,39 @@ TEST(FlexGrid, CellsAreDrivenThroughTheCurrentOne) {
     EXPECT_EQ(grid.Row(), 0) << "any cell is written without moving";
 }
 
+TEST(FlexGrid, ATextGoesIntoTheCurrentCellOnlyWhateverIsSelected) {
+    FlexGrid grid;
+    grid.setRows(5);
+    grid.setCols(4);
+    grid.setRow(2);
+    grid.setCol(1);
+    grid.setRowSel(4);
+    EXPECT_EQ(grid.FillStyle(), FlexGrid::Fill::Single);
+    grid.setText(u"x"_s);
+    EXPECT_EQ(column(grid, 1), QStringList({u""_s, u""_s, u"x"_s, u""_s, u""_s}));
+}
+
+TEST(FlexGrid, ATextFillsTheSelectionWhereItIsToldTo) {
+    FlexGrid grid;
+    grid.setRows(6);
+    grid.setCols(4);
+    grid.setFillStyle(FlexGrid::Fill::Repeat);
+    grid.setRow(4);
+    grid.setCol(2);
+    grid.setRowSel(2);
+    grid.setText(u"x"_s);
+    EXPECT_EQ(column(grid, 2), QStringList({u""_s, u""_s, u"x"_s, u"x"_s, u"x"_s, u""_s}));
+    EXPECT_EQ(column(grid, 1), QStringList({u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}));
+    EXPECT_EQ(grid.RowSel(), 2) << "the selection stays";
+    grid.setColSel(1);
+    grid.setText(u"y"_s);
+    EXPECT_EQ(column(grid, 1), QStringList({u""_s, u""_s, u"y"_s, u"y"_s, u"y"_s, u""_s}));
+    grid.setRow(1);
+    grid.setText(u"z"_s);
+    EXPECT_EQ(column(grid, 2), QStringList({u""_s, u""_s, u"y"_s, u"y"_s, u"y"_s, u""_s}));
+    EXPECT_EQ(column(grid, 1)[1], u"z"_s);
+}
+
 TEST(FlexGrid, CellsKeepTheirTextsInWhateverOrderTheyAreWritten) {
     FlexGrid grid;
     grid.setCols(24);

@@ -262,6 +262,63 @@ TEST_F(GridInput, OnlyTheUserScrolls) {
     EXPECT_EQ(scroll.size(), 3);
 }
 
+TEST_F(GridInput, ScrollingEndsAtOnceWhereNoButtonIsDown) {
+    QSignalSpy end(&grid, &FlexGrid::ScrollEnd);
+    grid.verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(end.size(), 1);
+}
+
+TEST_F(GridInput, ScrollingByTheBarEndsWhenTheButtonIsUp) {
+    QSignalSpy scroll(&grid, &FlexGrid::Scroll);
+    QSignalSpy end(&grid, &FlexGrid::ScrollEnd);
+    QScrollBar& bar = *grid.verticalScrollBar();
+    const QPoint belowTheSlider(bar.width() / 2, bar.height() * 3 / 4);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, belowTheSlider);
+    EXPECT_EQ(scroll.size(), 1);
+    EXPECT_EQ(end.size(), 0);
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, belowTheSlider);
+    QApplication::processEvents();
+    EXPECT_EQ(end.size(), 1);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(0, -50));
+    QApplication::processEvents();
+    EXPECT_EQ(end.size(), 1) << "the view has not moved";
+}
+
+TEST_F(GridInput, AClickThatScrollsTheViewIsAClickAllTheSame) {
+    grid.resize(400, 400);
+    grid.flush();
+    QSignalSpy clicked(&grid, &FlexGrid::clicked);
+    const int cut = grid.columnAt(grid.viewport()->width() - 3);
+    const QPoint place(grid.viewport()->width() - 3, middleOf(3, 1).y());
+    ASSERT_GT(grid.columnViewportPosition(cut) + grid.columnWidth(cut), grid.viewport()->width());
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, place);
+    ASSERT_NE(grid.columnAt(place.x()), cut) << "the view has moved under the mouse";
+    QTest::mouseMove(grid.viewport(), place + QPoint(0, 1));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, place + QPoint(0, 1));
+    EXPECT_EQ(clicked.size(), 1);
+    EXPECT_EQ(grid.Col(), cut + 1);
+    EXPECT_EQ(grid.ColSel(), cut + 1);
+}
+
+TEST_F(GridInput, ADragIsNoClick) {
+    QSignalSpy clicked(&grid, &FlexGrid::clicked);
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middleOf(2, 2));
+    QTest::mouseMove(grid.viewport(), middleOf(4, 2));
+    QTest::mouseMove(grid.viewport(), middleOf(2, 2));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, middleOf(2, 2));
+    EXPECT_EQ(clicked.size(), 0);
+}
+
+TEST_F(GridInput, InputMethodsAreForThoseWhoAskForThem) {
+    EXPECT_FALSE(grid.testAttribute(Qt::WA_InputMethodEnabled));
+    grid.setTakesInputMethods(true);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_TRUE(grid.testAttribute(Qt::WA_InputMethodEnabled));
+    grid.clearFocus();
+    grid.setFocus();
+    EXPECT_TRUE(grid.testAttribute(Qt::WA_InputMethodEnabled));
+}
+
 TEST_F(GridInput, TypingMovesNothing) {
     QTest::keyClicks(&grid, u"5,1"_s);
     QInputMethodEvent composed;

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -166,6 +167,25 @@ TEST(GridView, TheCursorIsWhereRowAndColAre) {
     grid.flush();
     EXPECT_FALSE(grid.currentIndex().isValid()) << "a header has no cursor";
     EXPECT_TRUE(grid.selectionModel()->selectedIndexes().isEmpty());
+}
+
+TEST(GridView, TheCurrentCellCanBeBroughtIntoView) {
+    FlexGrid grid;
+    grid.setRows(100);
+    grid.setCols(30);
+    grid.resize(500, 300);
+    grid.show();
+    QSignalSpy scroll(&grid, &FlexGrid::Scroll);
+    grid.setRow(70);
+    grid.setCol(20);
+    grid.showCell();
+    const QRect cell(grid.CellLeft(), grid.CellTop(), grid.CellWidth(), grid.CellHeight());
+    EXPECT_TRUE(grid.viewport()->geometry().contains(cell));
+    const int top = grid.TopRow();
+    grid.setRow(69);
+    grid.showCell();
+    EXPECT_EQ(grid.TopRow(), top) << "it is in view already";
+    EXPECT_EQ(scroll.size(), 0);
 }
 
 TEST(GridView, TheCellTellsItsPlaceInTheGrid) {
