@@ -5,6 +5,7 @@
 #include "SharedState.h"
 
 #include <QEvent>
+#include <QMenu>
 #include <QPushButton>
 
 namespace lingomat {
@@ -20,6 +21,7 @@ Liste::~Liste() = default;
 void Liste::connectEvents() {
     connect(m_command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
     connect(m_grid, &FlexGrid::mouseMoved, this, &Liste::SetColResize);
+    connect(m_grid, &FlexGrid::headerClicked, this, &Liste::headerClick);
     // The mark goes where the user goes: a key enters another cell, a click may fall on the current one.
     connect(m_grid, &FlexGrid::EnterCell, this, [this] {
         if (m_grid->Row() != MarkierteZeile)
@@ -47,6 +49,7 @@ void Liste::Form_Load() {
 
     GetProperties();
     Q_EMIT loadProgress(75);
+    nameSortMenus();
     Q_EMIT loadProgress(77);
 
     initialisiereListe();
@@ -56,10 +59,12 @@ void Liste::Form_Load() {
 }
 
 void Liste::Form_Activate() {
+    SortKlick = false;
     ConditionToUI();
 }
 
 void Liste::ConditionToUI() {
+    m_wordSort->setEnabled(m_context.state.SelectionValid);
     SetzeStatus();
 }
 
@@ -89,7 +94,8 @@ bool Liste::event(QEvent* event) {
 }
 
 bool Liste::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_grid && event->type() == QEvent::FocusIn)
+    // A focus that comes back by itself marks nothing after a sort.
+    if (watched == m_grid && event->type() == QEvent::FocusIn && !m_sorted)
         SetzeMarke();
     return QMainWindow::eventFilter(watched, event);
 }

@@ -91,6 +91,24 @@ public:
     /// Number of a cell in reading order.
     [[nodiscard]] qint16 Fgi(int row, int column) const;
 
+    // Editing in the cells.
+    qint16 MehrfachStart = 0;    ///< row at which the last selection began
+    qint16 MehrfachEnde = -1;    ///< row at which it ended; -1: its rows have been changed already
+    qint16 LetzteSpalte = 0;     ///< column of the last click
+    void SetMehrfachParameter(); ///< reads the selection into MehrfachStart and MehrfachEnde
+    /// Text of the control that lies over the current cell; none where the cell is not being edited.
+    [[nodiscard]] std::optional<QString> overlayText() const;
+    /// Takes over what is being typed, as leaving the cell does: to be called first by every command that
+    /// reads the grid or moves its current cell.
+    void commitOverlay();
+
+    // Sorting, by the current column. Afterwards no row is marked.
+    void SortAccordingToCol(); ///< a language column opens a menu that sorts
+    void SortByAll();
+    void SortByPrefix();
+    void SortByMain();
+    void SortBySuffix();
+
 Q_SIGNALS:
     void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
 
@@ -103,6 +121,16 @@ private:
     void buildMenus();
     void connectEvents();
     void Command1_Click(); ///< "Close"
+
+    // Sorting (ListeSort.cpp).
+    void buildSortMenu();
+    void nameSortMenus();
+    void SortWord(const QString& mode);
+    void sortByMenu(int column, void (Liste::*sort)());
+    void sortBy(int column);
+    void headerClick(int column);
+    void popUpAtHeader(QMenu& menu);
+
     void mnAnsicht_Click(ListColumn column);
     void setFirstWidths();
     void clearValueList(const QString& box);
@@ -118,6 +146,14 @@ private:
     FlexGrid* m_grid = nullptr;
     QPushButton* m_command1 = nullptr;
     QMenu* m_columnMenu = nullptr;
+
+    // Sorting.
+    QMenu* m_wordSort = nullptr;
+    QMenu* m_mnSpanisch = nullptr; ///< of the first language
+    QMenu* m_mnDeutsch = nullptr;  ///< of the second language
+    bool SortKlick = false;        ///< the click was one on a header and opens no editor
+    bool m_sorted = false;         ///< and no row was marked since
+
     std::array<QAction*, ListColumnCount> m_columnEntries{};
     std::array<qint16, KeptWidths> SpaltenBreiten{};
     std::optional<RowMark> m_mark;

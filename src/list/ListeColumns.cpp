@@ -19,6 +19,7 @@ void Liste::SetHeaders() {
         if (rule.option)
             m_grid->setTextMatrix(0, rule.number, columnTitle(*rule.option));
     }
+    nameSortMenus();
 }
 
 void Liste::SaveColWidths() {

@@ -23,6 +23,22 @@ constexpr FormText texts[] = {
      u"Closes this window, changes can be saved later"},
     {"mnFile", u"Datei", u"File"},
     {"mnSchließen", u"Schließen", u"Close"},
+    {"WordSort", u"Sortieren", u"Sort"},
+    {"WordSortByAll", u"Sortieren nach gesamtem Ausdruck", u"Sort by entire Expression"},
+    {"WordSortByPrefix", u"Sortieren nach Präfix", u"Sort by Prefix"},
+    {"WordSortByMain", u"Sortieren nach Hauptbereich", u"Sort by Main Part"},
+    {"WordSortBySuffix", u"Sortieren nach Suffix", u"Sort by Suffix"},
+    {"mnGesamt", u"Sortieren nach gesamtem Ausdruck", u"Sort by entire Expression"},
+    {"mnPrefix", u"Sortieren nach Präfix", u"Sort by Prefix"},
+    {"mnHaupt", u"Sortieren nach Hauptbereich", u"Sort by Main Part"},
+    {"mnSuffix", u"Sortieren nach Suffix", u"Sort by Suffix"},
+    {"mnWortart", u"nach Wortart", u"by Part of Speech"},
+    {"mnBereich", u"nach Bereich", u"by Area"},
+    {"mnBeispielsatz", u"nach Beispielsatz", u"by Sample Phrase"},
+    {"mnQuelle", u"nach Quelle", u"by Source"},
+    {"mnEingabedatum", u"nach Eingabedatum", u"by Creationdate"},
+    {"mnAenderungsdatum", u"nach Änderungsdatum", u"by Changedate"},
+    {"mnScore", u"nach Fehlerscore", u"by Error Score"},
     {"mnAnsicht", u"Ansicht", u"View"},
     {"mnSpalten", u"Spalten", u"Columns"},
 };
@@ -75,6 +91,8 @@ void Liste::buildMenus() {
     close->setShortcut(QKeySequence::Close);
     file->addAction(close);
     connect(close, &QAction::triggered, this, [this] { Command1_Click(); });
+
+    buildSortMenu();
 
     QMenu* view = addMenu(*menuBar(), u"mnAnsicht"_s);
     QMenu* columns = addMenu(*view, u"mnSpalten"_s);

@@ -14,6 +14,7 @@ void Liste::SetzeMarke() {
         if (row != 0)
             mark().put(row);
         MarkierteZeile = dao::toInteger16(row);
+        m_sorted = m_sorted && row == 0;
         ConditionToUI();
     });
 }

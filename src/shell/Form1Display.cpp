@@ -2,7 +2,6 @@
 
 #include "ErrorTrap.h"
 #include "ExpressionText.h"
-#include "FlexGrid.h"
 #include "FormTexts.h"
 #include "Globals.h"
 #include "GreyOut.h"
@@ -133,10 +132,7 @@ void Form1::SetzeAnzeigen() {
 }
 
 void Form1::UpdateLanguageFields() {
-    const SharedState& state = m_context.state;
-    FlexGrid& grid = m_forms.liste.MSFlexGrid1();
-    grid.setTextMatrix(0, Liste::ColSprache1, state.Lang1Name);
-    grid.setTextMatrix(0, Liste::ColSprache2, state.Lang2Name);
+    m_forms.liste.SetHeaders();
     m_forms.liste.HideColsAccordingToOptions();
 }
 
