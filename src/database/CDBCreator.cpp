@@ -98,18 +98,23 @@ CDBCreator::CDBCreator(Notifier notifier) : m_notifier(std::move(notifier)) {}
 
 dao::Database CDBCreator::CreateNewDatabase(const QString& path, bool showMessage,
                                             LanguageFields& languages) {
+    FileExisted = false;
     try {
         Database = dao::DBEngine::Workspaces(0).CreateDatabase(path, u";LANGID=0x0409;CP=1252;COUNTRY=0"_s);
         createAll(languages);
         return Database;
     } catch (const dao::Error& error) {
-        if (error.Number() != dao::ErrorNumber::DatabaseExists)
+        FileExisted = error.Number() == dao::ErrorNumber::DatabaseExists;
+        if (!FileExisted)
             m_notifier.reportError(error.Description());
-        else if (showMessage)
-            m_notifier.fileExists(path);
+        else if (m_notifier.storeError)
+            m_notifier.storeError(error.Description());
     } catch (const std::exception& error) {
         m_notifier.reportError(QString::fromUtf8(error.what()));
     }
+    Database = {}; // a file that was left half made is not held open
+    if (FileExisted && showMessage)
+        m_notifier.fileExists(path);
     return {};
 }
 

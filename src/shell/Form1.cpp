@@ -5,6 +5,7 @@
 #include "Liste.h"
 #include "SharedState.h"
 #include "ShellMessages.h"
+#include "SprachenEingabe.h"
 #include "Trainer.h"
 #include "frmSplash.h"
 
@@ -25,6 +26,7 @@ Form1::Form1(FormContext& context, WorkingForms forms, Surroundings surroundings
     : QMainWindow(parent), m_context(context), m_forms(forms), m_surroundings(std::move(surroundings)) {
     buildWidgets();
     buildMenus();
+    m_sprachenEingabe = new SprachenEingabe(context.prompts, this);
     connectCommands();
     m_dbAnzeige->installEventFilter(this);
 }

@@ -18,6 +18,7 @@ namespace lingomat {
 
 class Form2;
 class Liste;
+class SprachenEingabe;
 class Trainer;
 class frmSplash;
 struct Message;
@@ -77,6 +78,7 @@ public:
     void Grid_Click();           ///< "&List"
     void Command2_Click();       ///< "&Trainer"
     void Command4_Click();       ///< "&Quit"
+    void Menu_Datei_Neu_Click(); ///< "&New Vocab Database..."
     void Datei_Open_Click();     ///< "&Open Vocab Database..."
     void Datei_Beispiel_Click(); ///< "Open E&xample..."
 
@@ -112,7 +114,16 @@ private:
 
     // Database commands.
     void runCommand(const std::function<void()>& command);
+    /// Asks where changes are pending, and drops them. False: the user wants to keep them.
+    [[nodiscard]] bool giveUpPendingChanges();
     [[nodiscard]] std::optional<QString> askForDatabase();
+    [[nodiscard]] std::optional<QString> askForNewDatabase();
+    [[nodiscard]] bool askForLanguages();
+    bool createDatabaseFile(const QString& path);
+    /// Deletes a file that stands where the new one is to be, if the user wants it.
+    [[nodiscard]] bool replaceFile(const QString& path);
+    void beginEmptyDatabase();
+    void rememberDatabase(); ///< the next start opens it
     void OpenExampleDatabase();
     bool closeCurrentDatabase();
     bool openDatabaseFile(const QString& path);
@@ -142,7 +153,9 @@ private:
     WorkingForms m_forms;
     Surroundings m_surroundings;
 
+    SprachenEingabe* m_sprachenEingabe = nullptr;
     QMenu* m_menuAnsicht = nullptr;
+    QAction* m_menuDateiNeu = nullptr;
     QAction* m_dateiOpen = nullptr;
     QAction* m_dateiBeispiel = nullptr;
     QAction* m_menuDateiBeenden = nullptr;

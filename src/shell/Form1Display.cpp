@@ -21,6 +21,7 @@ namespace {
 
 constexpr FormText texts[] = {
     {"Menu_Datei", u"Datei", u"&File"},
+    {"Menu_Datei_Neu", u"Neue Vokabeldatenbank...", u"&New Vocab Database..."},
     {"Datei_Open", u"Öffne Vokabeldatenbank ...", u"&Open Vocab Database..."},
     {"Datei_Beispiel", u"Beispiel öffnen...", u"Open E&xample..."},
     {"Menu_Datei_Beenden", u"Beenden", u"&Quit"},

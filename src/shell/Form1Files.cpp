@@ -45,15 +45,8 @@ bool Form1::SetLanguageSettings() {
 
 void Form1::Datei_Open_Click() {
     runCommand([this] {
-        if (pendingChanges() > 0) {
-            if (m_context.prompts.message(this, proceedQuestion()) != QMessageBox::Yes) {
-                showListe();
-                return;
-            }
-            dropPendingChanges();
-        }
-        m_forms.form2.AuswahlGeaendert = true;
-
+        if (!giveUpPendingChanges())
+            return;
         const std::optional<QString> path = askForDatabase();
         if (!path) {
             SetzeAnzeigen();
@@ -63,6 +56,18 @@ void Form1::Datei_Open_Click() {
             return;
         continueOpening();
     });
+}
+
+bool Form1::giveUpPendingChanges() {
+    if (pendingChanges() > 0) {
+        if (m_context.prompts.message(this, proceedQuestion()) != QMessageBox::Yes) {
+            showListe();
+            return false;
+        }
+        dropPendingChanges();
+    }
+    m_forms.form2.AuswahlGeaendert = true;
+    return true;
 }
 
 std::optional<QString> Form1::askForDatabase() {
@@ -161,9 +166,7 @@ void Form1::fillFromOpenedDatabase() {
         trapped(prompts, [this] { ConditionToUI(true); });
     }
 
-    trapped(prompts, [this, &state] {
-        m_context.settings.SaveSetting(AppName(), u"Parameters"_s, u"RecentDB"_s, state.CurrentDBPath);
-    });
+    rememberDatabase();
     trapped(prompts, [this, &selection] {
         if (selection.RecordCount() >= 1)
             m_context.progress.setMaximum(selection.RecordCount());
@@ -171,6 +174,13 @@ void Form1::fillFromOpenedDatabase() {
     trapped(prompts, [this] { ConditionToUI(true); });
     if (m_form2Loaded)
         trapped(prompts, [this] { m_forms.form2.initialisiere(); });
+}
+
+void Form1::rememberDatabase() {
+    trapped(m_context.prompts, [this] {
+        m_context.settings.SaveSetting(AppName(), u"Parameters"_s, u"RecentDB"_s,
+                                       m_context.state.CurrentDBPath);
+    });
 }
 
 void Form1::refuseInvalidFile() {

@@ -101,6 +101,8 @@ void Form1::buildMenus() {
     menuBar()->setObjectName("menuBar"_L1);
 
     QMenu* file = makeMenu(*menuBar(), "Menu_Datei"_L1);
+    m_menuDateiNeu = makeEntry(*file, "Menu_Datei_Neu"_L1, "new"_L1);
+    m_menuDateiNeu->setShortcut(QKeySequence::New);
     m_dateiOpen = makeEntry(*file, "Datei_Open"_L1, "open"_L1);
     m_dateiOpen->setShortcut(QKeySequence::Open);
     m_dateiBeispiel = makeEntry(*file, "Datei_Beispiel"_L1);
@@ -126,6 +128,7 @@ void Form1::connectCommands() {
     const auto onChoice = [this](QAction* entry, void (Form1::*command)()) {
         connect(entry, &QAction::triggered, this, [this, command] { (this->*command)(); });
     };
+    onChoice(m_menuDateiNeu, &Form1::Menu_Datei_Neu_Click);
     onChoice(m_dateiOpen, &Form1::Datei_Open_Click);
     onChoice(m_dateiBeispiel, &Form1::Datei_Beispiel_Click);
     onChoice(m_menuDateiBeenden, &Form1::Command4_Click);

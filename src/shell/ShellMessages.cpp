@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -17,6 +19,13 @@ Message yesNoQuestion(const QString& text) {
             .text = text,
             .buttons = QMessageBox::Yes | QMessageBox::No,
             .defaultButton = QMessageBox::No};
+}
+
+FileDialogRequest databaseRequest(const QString& title, const QString& currentPath) {
+    return {.title = title,
+            .filter =
+                uiText(u"LMT-Dateien (*.lmt);;Alle Dateien (*)"_s, u"LMT-files (*.lmt);;all files (*)"_s),
+            .directory = currentPath.isEmpty() ? QString() : QFileInfo(currentPath).absolutePath()};
 }
 
 } // namespace
@@ -47,6 +56,19 @@ void tellSampleWillOpen(Prompts& prompts, QWidget* parent) {
                                     u"This language database consists of German and English vocabulary."_s)});
 }
 
+void tellLanguagesMissing(Prompts& prompts, QWidget* parent) {
+    prompts.exclamation(parent,
+                        uiText(u"Ohne Angabe der Sprachen kann die Datenbank nicht angelegt werden!"_s,
+                               u"The database can not be created, if there are no languages specified!"_s));
+}
+
+void tellFileNotDeleted(Prompts& prompts, QWidget* parent, const QString& path) {
+    LastErrorText =
+        uiText(u"Die Datei '%1' kann nicht gelöscht werden."_s, u"The file '%1' cannot be deleted."_s)
+            .arg(path);
+    prompts.message(parent, {.title = {}, .text = LastErrorText});
+}
+
 void tellScreenTooSmall(Prompts& prompts, QWidget* parent) {
     prompts.exclamation(
         parent, uiText(u"Die Bildschirmauflösung ist zu gering! Stellen Sie eine Bildschirmauflösung von "
@@ -74,10 +96,11 @@ void welcome(Prompts& prompts, QWidget* parent) {
 }
 
 FileDialogRequest openDatabaseRequest(const QString& currentPath) {
-    return {.title = uiText(u"Datenbank Öffnen"_s, u"Open Database"_s),
-            .filter =
-                uiText(u"LMT-Dateien (*.lmt);;Alle Dateien (*)"_s, u"LMT-files (*.lmt);;all files (*)"_s),
-            .directory = currentPath.isEmpty() ? QString() : QFileInfo(currentPath).absolutePath()};
+    return databaseRequest(uiText(u"Datenbank Öffnen"_s, u"Open Database"_s), currentPath);
+}
+
+FileDialogRequest newDatabaseRequest(const QString& currentPath) {
+    return databaseRequest(uiText(u"Neue Datenbank"_s, u"New Database"_s), currentPath);
 }
 
 Message quitQuestion() {
@@ -88,6 +111,34 @@ Message quitQuestion() {
 Message proceedQuestion() {
     return yesNoQuestion(uiText(u"Es wurden noch nicht alle Änderungen gesichert! Wirklich fortsetzen?"_s,
                                 u"Not all changes have been saved! Do you really want to proceed?"_s));
+}
+
+Message overwriteQuestion(const QString& path) {
+    return {.icon = QMessageBox::Question,
+            .title = {},
+            .text =
+                uiText(u"Datei "_s, u"File "_s) + path +
+                uiText(u" existiert bereits. Datei überschreiben?"_s, u" already exists. Overwrite file?"_s),
+            .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+            .defaultButton = QMessageBox::Yes};
+}
+
+CDBCreator::Notifier creatorNotifier(Prompts& prompts) {
+    return {.fileExists =
+                [&prompts](const QString& path) {
+                    prompts.message(nullptr, {.title = {},
+                                              .text = uiText(u"Die Datei '%1' exisitert bereits."_s,
+                                                             u"The file '%1' already exists."_s)
+                                                          .arg(path)});
+                },
+            .reportError = [&prompts](const QString& description) { reportError(prompts, description); },
+            .internalError =
+                [&prompts] {
+                    prompts.critical(nullptr, uiText(u"Es ist ein interner Fehler aufgetreten!"_s,
+                                                     u"An internal error occured!"_s));
+                    std::quick_exit(EXIT_FAILURE);
+                },
+            .storeError = [](const QString& description) { LastErrorText = description; }};
 }
 
 } // namespace lingomat

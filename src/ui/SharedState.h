@@ -10,7 +10,7 @@ namespace lingomat {
 
 /// What all forms read and write: the public variables of the main form. Application owns the one object.
 struct SharedState : LanguageFields {
-    explicit SharedState(CDBHandler::ErrorReporter reportError) : DBHandler(std::move(reportError)) {}
+    explicit SharedState(CDBHandler::ErrorReporter reportError);
 
     QString CurrentDBPath;       ///< full path of the open database; empty: none is open
     QString MarkePath;           ///< picture that marks the current row of a grid

@@ -55,6 +55,23 @@ TEST_F(Creator, NeverOverwritesAFile) {
     EXPECT_TRUE(languages.Lang1MainField.isEmpty()) << "nothing was created";
 }
 
+TEST_F(Creator, KeepsTheDescriptionOfAnExistingFileAndSaysThatThisWasIt) {
+    QStringList kept;
+    CDBCreator quiet{{.fileExists = [this](const QString& name) { existing.append(name); },
+                      .reportError = [this](const QString& text) { reports.append(text); },
+                      .internalError = {},
+                      .storeError = [&kept](const QString& text) { kept.append(text); }}};
+    const QString name = path(u"neu.lmt"_s);
+    EXPECT_TRUE(quiet.CreateNewDatabase(name, false, languages).isOpen());
+    EXPECT_FALSE(quiet.FileExisted);
+    EXPECT_FALSE(quiet.CreateNewDatabase(name, false, languages).isOpen());
+    EXPECT_TRUE(quiet.FileExisted);
+    EXPECT_EQ(kept, QStringList{u"Database '%1' already exists."_s.arg(name)});
+    EXPECT_FALSE(quiet.CreateNewDatabase(path(u"no/folder.lmt"_s), false, languages).isOpen());
+    EXPECT_FALSE(quiet.FileExisted);
+    EXPECT_EQ(reports.size(), 1);
+}
+
 TEST_F(Creator, ReportsAnyOtherErrorAlsoWhereTheCallerWantsNoMessage) {
     for (const bool showMessage : {true, false}) {
         reports.clear();

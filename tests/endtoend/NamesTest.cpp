@@ -37,8 +37,10 @@ const std::vector<WindowNames>& windows() {
         {"frmSplash", {"Label2", "ProgressBar1", "labStatus", "Timer1"}},
         {"Form1",
          {"DBAnzeige", "Lang1Label", "Lang2Label", "AnzahlLabel", "Command1", "Grid", "Command2", "Command4",
-          "Menu_Datei", "Datei_Open", "Datei_Beispiel", "Menu_Datei_Beenden", "Menu_Ansicht",
-          "Menu_Ansicht_Auswahl", "Menu_Auswahl_Liste", "Menu_Ansicht_Vokabeltrainer"}},
+          "Menu_Datei", "Menu_Datei_Neu", "Datei_Open", "Datei_Beispiel", "Menu_Datei_Beenden",
+          "Menu_Ansicht", "Menu_Ansicht_Auswahl", "Menu_Auswahl_Liste", "Menu_Ansicht_Vokabeltrainer"}},
+        {"SprachenEingabe",
+         {"Sprache1", "Sprache2", "OK", "cmdCancel", "lblText", "lblSprache1", "lblSprache2"}},
         {"Liste",
          {"MSFlexGrid1",
           "Command1",
@@ -347,8 +349,8 @@ TEST_F(Names, EveryMenuEntryHasANameAndACaption) {
 }
 
 TEST_F(Names, WhatIsNotBuiltYetIsAbsent) {
-    for (const char* name : {"Menu_Datei_Neu", "Datei_Drucken", "Sonderzeichen", "Optionen", "mnuHelpInhalt",
-                             "mnuHelpSuchen", "mnuHelpInfo", "mnWeb", "Label1"})
+    for (const char* name : {"Datei_Drucken", "Sonderzeichen", "Optionen", "mnuHelpInhalt", "mnuHelpSuchen",
+                             "mnuHelpInfo", "mnWeb", "Label1"})
         EXPECT_FALSE(hasChild(program.app().form1(), name)) << name;
 }
 

@@ -23,6 +23,7 @@ struct Caption {
 
 constexpr Caption Menus[] = {{"Menu_Datei", u"&File", u"Datei"}, {"Menu_Ansicht", u"&View", u"Ansicht"}};
 constexpr Caption Entries[] = {
+    {"Menu_Datei_Neu", u"&New Vocab Database...", u"Neue Vokabeldatenbank..."},
     {"Datei_Open", u"&Open Vocab Database...", u"Öffne Vokabeldatenbank ..."},
     {"Datei_Beispiel", u"Open E&xample...", u"Beispiel öffnen..."},
     {"Menu_Datei_Beenden", u"&Quit", u"Beenden"},
@@ -70,8 +71,8 @@ TEST_P(Texts, MenusHoldTheirEntriesInOrder) {
             all.append(action->isSeparator() ? u"-"_s : action->objectName());
         return all;
     };
-    EXPECT_EQ(names("Menu_Datei"),
-              QStringList({u"Datei_Open"_s, u"Datei_Beispiel"_s, u"-"_s, u"Menu_Datei_Beenden"_s}));
+    EXPECT_EQ(names("Menu_Datei"), QStringList({u"Menu_Datei_Neu"_s, u"Datei_Open"_s, u"Datei_Beispiel"_s,
+                                                u"-"_s, u"Menu_Datei_Beenden"_s}));
     EXPECT_EQ(names("Menu_Ansicht"), QStringList({u"Menu_Ansicht_Auswahl"_s, u"Menu_Auswahl_Liste"_s,
                                                   u"Menu_Ansicht_Vokabeltrainer"_s}));
 }
