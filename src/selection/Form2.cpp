@@ -1,5 +1,6 @@
 #include "Form2.h"
 
+#include "CSelection.h"
 #include "DateFilter.h"
 #include "ErrorTrap.h"
 #include "Form2Tabs.h"
@@ -42,8 +43,10 @@ Form2::Form2(FormContext& context, Liste& liste, Trainer& trainer, QWidget* pare
                 [this](const QString& id) { return m_query.GetAllGrammatikalisch(id); },
                 [this](const QString& id) { return m_query.GetAllFunktional(id); }} {
     buildWidgets();
+    buildLessons();
     connectEvents();
     connectMenus();
+    connectLessons();
 }
 
 Form2::~Form2() = default;
@@ -66,6 +69,7 @@ void Form2::Form_Load() {
 void Form2::initialisiere() {
     trapped(m_context.prompts, [this] {
         showLanguageNames();
+        InitialisiereAuswahlBox();
         m_entryDates.init();
         m_changeDates.init();
         Command2_Click();
@@ -79,6 +83,8 @@ void Form2::connectEvents() {
     connect(m_command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
     connect(m_command3, &QPushButton::clicked, this, [this] { Command3_Click(); });
     connect(m_command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
+    connect(findChild<QPushButton*>(u"cmdFont"_s), &QPushButton::clicked, this,
+            [this] { Q_EMIT specialCharactersRequested(*this); });
     connect(m_lists, &ListPairFrame::addRequested, this, &Form2::cmdAdd_Click);
     connect(m_lists, &ListPairFrame::removeRequested, this, &Form2::cmdRemove_Click);
     connect(m_lists, &ListPairFrame::addAllRequested, this, &Form2::cmdAddAll_Click);
@@ -102,8 +108,10 @@ void Form2::connectEvents() {
         connect(box, &QComboBox::editTextChanged, this, &Form2::filterChanged);
 
     const auto boxes = findChildren<QLineEdit*>();
-    for (QLineEdit* box : boxes)
-        box->installEventFilter(this);
+    for (QLineEdit* box : boxes) {
+        if (box != m_cmbName->lineEdit()) // no filter
+            box->installEventFilter(this);
+    }
 }
 
 void Form2::connectMenus() {

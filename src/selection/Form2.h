@@ -9,7 +9,9 @@
 #include <QMainWindow>
 
 #include <array>
+#include <memory>
 
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
@@ -20,6 +22,7 @@ class QTabBar;
 
 namespace lingomat {
 
+class CSelection;
 class DateFilter;
 class ListPairFrame;
 class ScoreFilter;
@@ -31,6 +34,7 @@ struct SelectionFilters;
 ///
 /// A run replaces RecordsetAuswahl; there is one selection at a time. Of every pair of lists the left one
 /// holds what can be chosen, the right one what was chosen. Closing the window hides it, filters and all.
+/// The filters can be kept as a lesson; recalling one fills the window and runs nothing.
 class Form2 final : public QMainWindow {
     Q_OBJECT
 
@@ -46,6 +50,7 @@ public:
     /// Every filter back to its default, bounds of the dates read anew. For when another database was opened.
     void initialisiere();
     void SetUserInterfaceProperties();
+    void InitialisiereAuswahlBox(); ///< empties cmbName and offers the lessons of the open database
 
     /// Empties all twelve lists and offers anew what the value lists and the database hold.
     void InitialisiereSelectionboxes();
@@ -82,6 +87,7 @@ public:
 Q_SIGNALS:
     /// The Vocab List was filled, the Trainer restarted, SelectionValid set.
     void selectionMade();
+    void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
 
 protected:
     bool event(QEvent* event) override;
@@ -104,11 +110,14 @@ private:
     QWidget* buildLanguagePage();
     QWidget* buildMiscellaneousPage();
     QWidget* buildButtons();
+    QLayout* buildHead();
+    void buildLessons();
     LanguageBoxes addLanguageColumn(QWidget& page, int number);
     void buildMasters();
     void buildMenus();
     void connectEvents();
     void connectMenus();
+    void connectLessons();
     void showLanguageNames();
 
     // Events.
@@ -127,6 +136,13 @@ private:
     void selectNextTab();
     void filterChanged() { AuswahlGeaendert = true; }
     void gateChanged(const QString& language);
+    void cmbName_Change();
+    void cmbName_Click();
+    void cmdSpeichern_Click(); ///< "Save"
+    void cmdLoeschen_Click();  ///< "Delete"
+    void askForLesson();       ///< mnAuswahlNeu, mnAuswahlOpen
+    void recallLesson();
+    void showLessonCommands(bool save, bool remove);
 
     // The run.
     [[nodiscard]] SelectionFilters filters() const;
@@ -155,8 +171,16 @@ private:
     clsCursor m_cursor;
     CQuery m_query;
     EntryLookups m_lookups;
+    std::unique_ptr<CSelection> m_lessons;
     bool StandardTabs = false;
+    bool m_nameTyped = false;  ///< the change of cmbName that comes next is the user's typing
+    bool m_nameChosen = false; ///< the last one was not, and no choice has been seen since
 
+    QComboBox* m_cmbName = nullptr;
+    QPushButton* m_cmdSpeichern = nullptr;
+    QPushButton* m_cmdLoeschen = nullptr;
+    QAction* m_mnAuswahlSpeichern = nullptr;
+    QAction* m_mnAuswahlDelete = nullptr;
     QTabBar* m_tabStrip = nullptr;
     QTabBar* m_tabs = nullptr;
     QStackedWidget* m_pages = nullptr;

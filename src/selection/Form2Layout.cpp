@@ -2,6 +2,8 @@
 
 #include "DateFilter.h"
 #include "Form2Tabs.h"
+#include "LengthLimit.h"
+#include "LessonRules.h"
 #include "ListPairFrame.h"
 #include "ScoreFilter.h"
 #include "SideTabBar.h"
@@ -36,6 +38,13 @@ QLabel* addLabel(QGridLayout& grid, const QString& name, QWidget* buddy, int row
     label->setBuddy(buddy);
     grid.addWidget(label, row, 0);
     return label;
+}
+
+QPushButton* addButton(QBoxLayout& row, const QString& name) {
+    auto* button = named(new QPushButton, name);
+    button->setAutoDefault(true);
+    row.addWidget(button);
+    return button;
 }
 
 /// Asks for the room that its pages need, and scrolls them where a screen has less.
@@ -80,13 +89,37 @@ void Form2::buildWidgets() {
     body->addWidget(buildPages(), 1);
     auto* centre = named(new QWidget, u"centre"_s);
     auto* column = new QVBoxLayout(centre);
-    column->addWidget(m_tabStrip);
+    column->addLayout(buildHead());
     column->addLayout(body, 1);
     column->addWidget(buildButtons());
     setCentralWidget(centre);
     buildMasters();
     buildMenus();
     named(statusBar(), u"StatusBar1"_s);
+}
+
+/// Beside the first tabs, where there is room: the lesson that fills the whole form.
+QLayout* Form2::buildHead() {
+    m_cmbName = named(new QComboBox, u"cmbName"_s);
+    m_cmbName->setEditable(true);
+    m_cmbName->setCompleter(nullptr);      // it would recall a lesson whose name is being typed still
+    m_cmbName->setDuplicatesEnabled(true); // or Enter would choose the named lesson again
+    m_cmbName->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cmbName->setMinimumContentsLength(14);
+    m_cmbName->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    limitLength(*m_cmbName, LessonNameSize, m_context.prompts);
+    m_context.values.attach(*m_cmbName, u"Auswahl"_s);
+    auto* label = named(new QLabel, u"lblName"_s);
+    label->setBuddy(m_cmbName);
+
+    auto* head = new QHBoxLayout;
+    head->addWidget(m_tabStrip, 0, Qt::AlignBottom);
+    head->addStretch(1);
+    head->addWidget(label);
+    head->addWidget(m_cmbName, 3);
+    m_cmdSpeichern = addButton(*head, u"cmdSpeichern"_s);
+    m_cmdLoeschen = addButton(*head, u"cmdLoeschen"_s);
+    return head;
 }
 
 QWidget* Form2::buildPages() {
@@ -161,17 +194,12 @@ QWidget* Form2::buildButtons() {
     auto* bar = named(new QWidget, u"buttons"_s);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
-    const auto addButton = [row](const QString& name) {
-        auto* button = named(new QPushButton, name);
-        button->setAutoDefault(true);
-        row->addWidget(button);
-        return button;
-    };
-    m_command2 = addButton(u"Command2"_s);
+    m_command2 = addButton(*row, u"Command2"_s);
+    addButton(*row, u"cmdFont"_s);
     row->addStretch();
-    m_command1 = addButton(u"Command1"_s);
-    m_command4 = addButton(u"Command4"_s);
-    m_command3 = addButton(u"Command3"_s);
+    m_command1 = addButton(*row, u"Command1"_s);
+    m_command4 = addButton(*row, u"Command4"_s);
+    m_command3 = addButton(*row, u"Command3"_s);
     m_command1->setDefault(true);
     return bar;
 }
@@ -196,7 +224,13 @@ void Form2::buildMenus() {
     const auto add = [this](QMenu* menu, const QString& name) {
         auto* action = named(new QAction(this), name);
         menu->addAction(action);
+        return action;
     };
+    add(selection, u"mnAuswahlNeu"_s);
+    add(selection, u"mnAuswahlOpen"_s);
+    m_mnAuswahlSpeichern = add(selection, u"mnAuswahlSpeichern"_s);
+    m_mnAuswahlDelete = add(selection, u"mnAuswahlDelete"_s);
+    selection->addSeparator();
     add(selection, u"mnSuchen"_s);
     add(selection, u"mnSelectAll"_s);
     selection->addSeparator();

@@ -22,6 +22,10 @@ constexpr FormText texts[] = {
     {"Form2", u"Auswahl", u"Selection"},
 
     {"mnAuswahl", u"A&uswahl", u"&Selection"},
+    {"mnAuswahlNeu", u"&Neue Lektion...", u"&New Lesson..."},
+    {"mnAuswahlOpen", u"Lektion ö&ffnen...", u"&Open Lesson..."},
+    {"mnAuswahlSpeichern", u"Lektion s&peichern", u"&Save Lesson"},
+    {"mnAuswahlDelete", u"Lektion &löschen", u"&Delete Lesson"},
     {"mnSuchen", u"Auswahl &übernehmen", u"&Apply Selection"},
     {"mnSelectAll", u"Alles &zurücksetzen", u"Clear A&ll"},
     {"mnClose", u"&Schließen", u"&Close"},
@@ -42,6 +46,12 @@ constexpr FormText texts[] = {
     {"tabStandard", u"Standard", u"Standard"},
     {"tabErweitert", u"Erweitert", u"Advanced"},
 
+    {"lblName", u"&Lektion:", u"Lesso&n:"},
+    {"cmbName", u"Lektion", u"Lesson"},
+    {"cmdSpeichern", u"Spei&chern", u"Save", u"Speichert die Einstellungen als Lektion",
+     u"Saves the settings as a lesson"},
+    {"cmdLoeschen", u"Löschen", u"Delete", u"Löscht die Lektion", u"Deletes the lesson"},
+
     {"Command1", u"OK", u"OK",
      u"Startet die Abfrage mit den eingestellten Auswahlkriterien und schließt das Fenster",
      u"Starts the query as defined by the selection parameters and closes this window"},
@@ -51,6 +61,8 @@ constexpr FormText texts[] = {
     {"Command3", u"&Schließen", u"&Close"},
     {"Command4", u"Über&nehmen", u"Appl&y", u"Startet die Abfrage mit den eingestellten Auswahlkriterien",
      u"Starts the query as defined by the selection parameters"},
+
+    {"cmdFont", u"Sonderzeichen", u"Special Characters"},
 
     {"lblLinks", u"&Verfügbar:", u"A&vailable:"},
     {"lblRechts", u"Aus&gewählt:", u"C&hosen:"},
@@ -64,14 +76,14 @@ constexpr FormText texts[] = {
     {"chkRefOption2", u"Referenzierte Einträge suchen", u"Find referenced entries"},
 
     {"picScore", u"Fehlerscore", u"Error Score"},
-    {"lblMinScore", u"&Minimum:", u"Mi&nimum:"},
+    {"lblMinScore", u"&Minimum:", u"Min&imum:"},
     {"lblMaxScore", u"Ma&ximum:", u"Ma&ximum:"},
 
     {"picWortbestandteile", u"Wortbestandteile", u"Wordparts"},
     {"lblPrefix", u"&Präfix:", u"&Prefix:"},
     {"lblMain", u"&Hauptteil:", u"Main par&t:"},
     {"lblSuffix", u"Suffi&x:", u"Suffi&x:"},
-    {"lblKommentar", u"&Kommentar:", u"Comme&nt:"},
+    {"lblKommentar", u"&Kommentar:", u"C&omment:"},
 
     {"picEingabedatum", u"Eingabedatum", u"Date of Entry"},
     {"lblEingabeVon", u"&Von:", u"&From:"},

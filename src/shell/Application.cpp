@@ -32,6 +32,7 @@ void Application::connectForms() {
     // Working.
     QObject::connect(&m_form2, &Form2::selectionMade, &m_form1, &Form1::GreyOut);
     QObject::connect(&m_trainer, &Trainer::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
+    QObject::connect(&m_form2, &Form2::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
 
     // The end. Not QCoreApplication::quit, which would close the windows once more.
     QObject::connect(&m_form1, &Form1::exitRequested, qApp, [] { QCoreApplication::exit(); });
