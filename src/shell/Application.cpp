@@ -1,6 +1,7 @@
 #include "Application.h"
 
 #include "ErrorTrap.h"
+#include "Relationen.h"
 
 #include <QApplication>
 
@@ -36,6 +37,10 @@ void Application::connectForms() {
 
     // The end. Not QCoreApplication::quit, which would close the windows once more.
     QObject::connect(&m_form1, &Form1::exitRequested, qApp, [] { QCoreApplication::exit(); });
+}
+
+void Application::showReferences() {
+    lingomat::showReferences(m_context, m_liste, &m_liste);
 }
 
 void Application::start() {

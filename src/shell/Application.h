@@ -41,6 +41,8 @@ public:
 
     /// Shows the splash, which has the main window loaded and shown as soon as the event loop runs.
     void start();
+    /// The references of the list's current entry, modally.
+    void showReferences();
 
     [[nodiscard]] SharedState& state() { return m_state; }
     [[nodiscard]] SettingsStore& settings() { return m_settings; }
