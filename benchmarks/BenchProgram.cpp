@@ -9,17 +9,29 @@
 #include <QPushButton>
 
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-class NobodyThere final : public lingomat::Prompts {
+/// In the place of the user.
+class BenchProgram::StandIn final : public lingomat::Prompts {
 public:
+    std::function<void(QDialog&)> act;
+
     QMessageBox::StandardButton message(QWidget*, const lingomat::Message& message) override {
-        qFatal("the program asks: %s", qPrintable(message.text));
+        if (!act || !(message.buttons & QMessageBox::Yes))
+            qFatal("the program asks: %s", qPrintable(message.text));
+        return QMessageBox::Yes;
     }
-    int exec(QDialog& dialog) override { qFatal("the program shows %s", qPrintable(dialog.objectName())); }
+    int exec(QDialog& dialog) override {
+        if (!act)
+            qFatal("the program shows %s", qPrintable(dialog.objectName()));
+        dialog.show();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        act(dialog);
+        dialog.close();
+        return dialog.result();
+    }
     std::optional<QString> openFile(QWidget*, const lingomat::FileDialogRequest&) override {
         qFatal("the program wants to open a file");
     }
@@ -29,9 +41,7 @@ public:
     void beep() override {}
 };
 
-} // namespace
-
-BenchProgram::BenchProgram() : m_prompts(std::make_unique<NobodyThere>()) {
+BenchProgram::BenchProgram() : m_prompts(std::make_unique<StandIn>()) {
     const QString settingsFolder = m_folder.filePath(u"settings"_s);
     if (!QFile::copy(bigDatabase(), databasePath()))
         throw std::runtime_error("the big database cannot be copied");
@@ -58,6 +68,10 @@ void BenchProgram::start() {
     };
     while (!takesCommands())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void BenchProgram::answerWith(std::function<void(QDialog&)> act) {
+    m_prompts->act = std::move(act);
 }
 
 void BenchProgram::selectAll() {

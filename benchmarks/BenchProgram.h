@@ -4,8 +4,10 @@
 
 #include <QTemporaryDir>
 
+#include <functional>
+
 /// The whole program on a copy of the big database, with settings of its own, run without anybody in front of
-/// it: a question or a message ends the benchmark.
+/// it: a question, a message or a modal form that nobody answers ends the benchmark.
 class BenchProgram {
 public:
     BenchProgram();
@@ -17,12 +19,16 @@ public:
     /// Selects all entries into the list.
     void selectAll();
 
+    /// Has every question answered with Yes, and `act` work on each modal form while it is shown.
+    void answerWith(std::function<void(QDialog&)> act);
+
     [[nodiscard]] lingomat::Application& application() { return *m_application; }
     [[nodiscard]] QString databasePath() const { return m_folder.filePath(QStringLiteral("big.lmt")); }
 
 private:
     QTemporaryDir m_folder;
-    std::unique_ptr<lingomat::Prompts> m_prompts;
+    class StandIn;
+    std::unique_ptr<StandIn> m_prompts;
     lingomat::ClockSeededRandom m_random;
     std::unique_ptr<lingomat::Application> m_application;
 };

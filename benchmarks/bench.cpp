@@ -8,17 +8,22 @@
 #include "Report.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QProcess>
 #include <QPushButton>
+#include <QTabBar>
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int Repetitions = 5;
+constexpr int LessonValues = 1000;
 
 /// What the benchmarks share. A second file is the yardstick's own, so that its writing does not make what
 /// the program has in memory invalid.
@@ -138,6 +143,57 @@ void trainerStep(benchmark::State& state) {
     }
 }
 
+/// From the references of an entry to the form that offers all others.
+void newReference(benchmark::State& state) {
+    BenchProgram& program = g_bench->selected();
+    program.application().liste().MSFlexGrid1().setRow(1);
+    program.answerWith([](QDialog& dialog) {
+        if (auto* add = dialog.findChild<QPushButton*>(u"Add"_s))
+            add->click();
+    });
+    for (auto _ : state)
+        program.application().showReferences();
+    program.answerWith({});
+}
+
+/// The selection form with a thousand types of references, all of them chosen.
+lingomat::Form2& lesson() {
+    lingomat::Application& application = g_bench->selected().application();
+    lingomat::Form2& form = application.form2();
+    static bool prepared = false;
+    if (std::exchange(prepared, true))
+        return form;
+    dao::Recordset& references = application.state().DBHandler.RecordsetReferenzen;
+    for (int i = 0; i < LessonValues; ++i) {
+        references.AddNew();
+        references.setField(u"von"_s, i + 1);
+        references.setField(u"nach"_s, i + 2);
+        references.setField(u"Typ"_s, u"Type %1"_s.arg(i));
+        references.Update();
+    }
+    form.InitialisiereSelectionboxes();
+    form.findChild<QTabBar*>(u"tbsOptions"_s)->setCurrentIndex(7);
+    form.findChild<QPushButton*>(u"cmdAddAll"_s)->click();
+    form.findChild<QComboBox*>(u"cmbName"_s)->setEditText(u"Lesson"_s);
+    return form;
+}
+
+void storeLesson(benchmark::State& state) {
+    auto* save = lesson().findChild<QPushButton*>(u"cmdSpeichern"_s);
+    g_bench->program.answerWith([](QDialog&) {});
+    for (auto _ : state)
+        save->click();
+    g_bench->program.answerWith({});
+}
+
+void recallLesson(benchmark::State& state) {
+    auto* name = lesson().findChild<QComboBox*>(u"cmbName"_s);
+    for (auto _ : state) {
+        name->clearEditText();
+        name->setEditText(u"Lesson"_s);
+    }
+}
+
 void add(const char* name, void (*function)(benchmark::State&), int iterations) {
     benchmark::RegisterBenchmark(name, function)
         ->Repetitions(Repetitions)
@@ -155,6 +211,9 @@ void printFigures(Report& report) {
     report.figure("sort the list by a column", ms("sortColumn"), 100, "ms");
     report.figure("shuffle", ms("shuffle"), 150, "ms");
     report.figure("one step of the Trainer, painted", ms("trainerStep"), 16, "ms");
+    report.figure("dialog of a new reference", ms("newReference"), 500, "ms");
+    report.figure("store a lesson of 1,000 values", ms("storeLesson"), 500, "ms");
+    report.figure("recall it", ms("recallLesson"), 200, "ms");
     report.figure("memory with the whole list open", runStartup(u"list"_s).trimmed().toDouble() / 1024, 200,
                   "MiB");
 }
@@ -176,10 +235,13 @@ int main(int argc, char** argv) {
     add("sortColumn", sortColumn, 23);
     add("shuffle", shuffle, 3);
     add("trainerStep", trainerStep, 50);
+    add("newReference", newReference, 1);
+    add("storeLesson", storeLesson, 3);
+    add("recallLesson", recallLesson, 3);
 
     Report report;
     benchmark::RunSpecifiedBenchmarks(&report);
-    if (!report.has("trainerStep"))
+    if (!report.has("bareLoop") || !report.has("recallLesson"))
         return 0; // a filter left some out
     printFigures(report);
     return report.missed() == 0 ? 0 : 1;
