@@ -57,8 +57,12 @@ public:
     void Set2ndVoc(); ///< shows the marked entry beside the current one
     void SetUserInterfaceProperties();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void buildWidgets();
+    void shareWidth();
     [[nodiscard]] QWidget* buildPicker();
     void connectEvents();
     void Form_Load();

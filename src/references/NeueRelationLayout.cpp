@@ -10,10 +10,12 @@
 #include "WindowPlacement.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -30,10 +32,10 @@ constexpr FormText texts[] = {
     {"MSFlexGrid1", u"Vokabeln", u"Vocabs"},
     {"lblCurrent", u"Aktuelle Vokabel:", u"Current vocab:"},
     {"lblOther", u"Zweite Vokabel:", u"Second vocab:"},
-    {"lblType", u"Referenzart:", u"Reference type:"},
+    {"lblType", u"Referenz&art:", u"Reference &type:"},
     {"Combo1", u"Referenzart", u"Reference type"},
-    {"cmdSuchen", u"Suchen...", u"Find...", u"Sucht einen Ausdruck in der Liste", u"Finds an expression in the list"},
-    {"Command2", u"Schließen", u"Close"},
+    {"cmdSuchen", u"&Suchen...", u"&Find...", u"Sucht einen Ausdruck in der Liste", u"Finds an expression in the list"},
+    {"Command2", u"S&chließen", u"C&lose"},
 };
 
 constexpr FormText createTexts[] = {
@@ -143,8 +145,6 @@ QWidget* NeueRelation::buildPicker() {
     m_grid->setFixedRows(1);
     m_grid->setFixedCols(1);
     m_grid->setColWidth(ColMarke, m_grid->DefaultColWidth() / 3);
-    m_grid->setColWidth(ColSprache1, 3 * m_grid->DefaultColWidth());
-    m_grid->setColWidth(ColSprache2, 3 * m_grid->DefaultColWidth());
     m_grid->setColWidth(ColID, 0);
     m_mark = std::make_unique<RowMark>(*m_grid, m_context.state.MarkePath);
 
@@ -158,7 +158,22 @@ QWidget* NeueRelation::buildPicker() {
     return m_picker;
 }
 
+/// Half of the room for each language.
+void NeueRelation::shareWidth() {
+    const int frame = 2 * m_grid->frameWidth() + m_grid->verticalScrollBar()->sizeHint().width();
+    const int language = (m_grid->width() - frame - m_grid->ColWidth(ColMarke)) / 2;
+    m_grid->setColWidth(ColSprache1, language);
+    m_grid->setColWidth(ColSprache2, language);
+}
+
+bool NeueRelation::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_grid && event->type() == QEvent::Resize)
+        shareWidth();
+    return QDialog::eventFilter(watched, event);
+}
+
 void NeueRelation::connectEvents() {
+    m_grid->installEventFilter(this);
     connect(m_action, &QPushButton::clicked, this, &NeueRelation::Command1_Click);
     connect(m_search, &QPushButton::clicked, this, &NeueRelation::cmdSuchen_Click);
     connect(m_type, &QComboBox::editTextChanged, this, &NeueRelation::checkComboValue);
@@ -176,8 +191,9 @@ void NeueRelation::setMode(bool create) {
     else
         applyTexts(*this, changeTexts);
     m_picker->setVisible(create);
+    (create ? static_cast<QWidget*>(m_grid) : m_type)->setFocus();
     layout()->activate();
-    resize(width(), create ? VolleHoehe : minimumSizeHint().height());
+    resize(width(), create ? VolleHoehe : layout()->totalHeightForWidth(width()));
 }
 
 void NeueRelation::SetUserInterfaceProperties() {

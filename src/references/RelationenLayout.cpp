@@ -24,9 +24,9 @@ constexpr FormText texts[] = {
     {"Relationen", u"Referenzen", u"References"},
     {"MSFlexGrid1", u"Referenzen", u"References"},
     {"OK", u"OK", u"OK"},
-    {"Add", u"Hinzufügen...", u"Add...", u"Erzeugt eine neue Referenz", u"Creates a new reference"},
-    {"Change", u"Ändern...", u"Change...", u"Ändert die Art der gewählten Referenz", u"Changes the type of the selected reference"},
-    {"Delete", u"Löschen", u"Delete", u"Löscht die gewählte Referenz", u"Deletes the selected reference"},
+    {"Add", u"&Hinzufügen...", u"&Add...", u"Erzeugt eine neue Referenz", u"Creates a new reference"},
+    {"Change", u"Ä&ndern...", u"&Change...", u"Ändert die Art der gewählten Referenz", u"Changes the type of the selected reference"},
+    {"Delete", u"&Löschen", u"&Delete", u"Löscht die gewählte Referenz", u"Deletes the selected reference"},
 };
 // clang-format on
 

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -382,6 +383,23 @@ TEST_F(NewReference, ChangeOfOneThatIsGoneSaysSo) {
 }
 
 // Looks and texts.
+
+TEST_F(NewReference, LanguagesShareTheWidth) {
+    create(a);
+    grid().flush();
+    EXPECT_EQ(grid().ColWidth(NeueRelation::ColSprache1), grid().ColWidth(NeueRelation::ColSprache2));
+    EXPECT_NEAR(grid().ColWidth(NeueRelation::ColSprache1), grid().width() / 2.0, 40);
+    EXPECT_EQ(grid().horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(NewReference, StartsWhereTheUserHasToChoose) {
+    bench.addReference(a, b, u"See also"_s);
+    create(a);
+    EXPECT_EQ(form->focusWidget(), &grid());
+    change(a);
+    EXPECT_TRUE(types().hasFocus());
+    EXPECT_GE(types().height(), types().sizeHint().height()) << "nothing is squeezed";
+}
 
 TEST_F(NewReference, TextsOfCreating) {
     create(a);

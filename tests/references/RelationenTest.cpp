@@ -406,6 +406,15 @@ TEST_F(References, ShowAnExpressionAsItIs) {
     EXPECT_EQ(child<QLabel>(*form, "Label3").buddy(), nullptr);
 }
 
+TEST_F(References, EachCommandHasALetterOfItsOwn) {
+    open(a);
+    QStringList letters;
+    for (const char* button : {"Add", "Change", "Delete"})
+        letters.append(QKeySequence::mnemonic(child<QPushButton>(*form, button).text()).toString());
+    EXPECT_FALSE(letters.contains(QString()));
+    EXPECT_EQ(letters.removeDuplicates(), 0);
+}
+
 TEST_F(References, OkCloses) {
     open(a);
     click("OK");
