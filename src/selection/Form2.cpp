@@ -186,6 +186,8 @@ bool Form2::event(QEvent* event) {
 }
 
 bool Form2::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_cmbName) // a slip of the wheel must not put a lesson in place of all filters
+        return event->type() == QEvent::Wheel;
     if (event->type() == QEvent::FocusIn)
         m_context.state.ActiveFieldName = watched->objectName();
     return QMainWindow::eventFilter(watched, event);

@@ -43,6 +43,7 @@ void Form2::buildLessons() {
 void Form2::connectLessons() {
     connect(m_cmbName, &QComboBox::editTextChanged, this, &Form2::cmbName_Change);
     connect(m_cmbName, &QComboBox::activated, this, &Form2::cmbName_Click);
+    m_cmbName->installEventFilter(this);
     // Comes before the change that it tells of.
     connect(m_cmbName->lineEdit(), &QLineEdit::textEdited, this, [this] { m_nameTyped = true; });
     connect(m_cmdSpeichern, &QPushButton::clicked, this, &Form2::cmdSpeichern_Click);

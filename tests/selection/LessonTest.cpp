@@ -1,7 +1,9 @@
 #include "LessonBench.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -259,6 +261,19 @@ TEST_F(Lessons, ChoosingRecallsOnceMore) {
     bench.type("Lang1Main", u"mouse"_s);
     choose(0); // the one that was typed
     EXPECT_EQ(bench.text("Lang1Main"), u"dog"_s);
+}
+
+TEST_F(Lessons, WheelOverTheNameRecallsNothing) {
+    bench.type("Lang1Main", u"dog"_s);
+    save(u"One"_s);
+    save(u"Two"_s);
+    bench.type("Lang1Main", u"cat"_s);
+    const QPointF place = name().rect().center();
+    QWheelEvent turn(place, name().mapToGlobal(place), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&name(), &turn);
+    EXPECT_EQ(name().currentText(), u"Two"_s);
+    EXPECT_EQ(bench.text("Lang1Main"), u"cat"_s);
 }
 
 TEST_F(Lessons, LeaveGatesTabsAndOptionsAsTheyAre) {
