@@ -2,18 +2,17 @@
 
 #include "FormTexts.h"
 #include "Globals.h"
+#include "ModalFollower.h"
 #include "WindowPlacement.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStringList>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -66,7 +65,7 @@ QString instructions() {
 
 } // namespace
 
-FontHelp::FontHelp(QWidget* parent) : QDialog(parent) {
+FontHelp::FontHelp(QWidget* parent) : QDialog(parent), m_follower(new ModalFollower(*this)) {
     setObjectName(u"FontHelp"_s);
     setModal(false);
     buildWidgets();
@@ -152,31 +151,11 @@ void FontHelp::showFor(QWidget& asker) {
     QWidget& window = *asker.window();
     if (!isVisible())
         move(placeBeside(window.frameGeometry(), size(), usableScreen(window)));
-    follow(window);
-    followModalDialog();
+    m_follower->follow(window);
+    m_follower->followModalDialog();
     show();
     raise();
     activateWindow();
-}
-
-bool FontHelp::event(QEvent* event) {
-    // A dialog came up over the pad. It is still on its way to the screen.
-    if (event->type() == QEvent::WindowBlocked)
-        QMetaObject::invokeMethod(this, &FontHelp::followModalDialog, Qt::QueuedConnection);
-    return QDialog::event(event);
-}
-
-void FontHelp::followModalDialog() {
-    const QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog && dialog != this)
-        follow(*dialog);
-}
-
-void FontHelp::follow(const QWidget& window) {
-    keepInFrontOf(*this, window);
-    // Without that window the pad hangs on to nothing, while another dialog may still be up.
-    connect(window.windowHandle(), &QObject::destroyed, this, &FontHelp::followModalDialog,
-            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
 }
 
 } // namespace lingomat

@@ -7,11 +7,12 @@ class QLineEdit;
 
 namespace lingomat {
 
+class ModalFollower;
+
 /// The pad of characters that a keyboard may lack. A press copies the character to the clipboard, from where
 /// the user pastes it into any field.
 ///
-/// There is one pad, and it is modeless. It stays usable while a modal dialog is up, by hanging on to that
-/// dialog's window; a window of its own kind would be locked out with all others.
+/// There is one pad, and it is modeless. It stays usable while a modal dialog is up.
 class FontHelp final : public QDialog {
     Q_OBJECT
 
@@ -28,16 +29,11 @@ public:
 
     void SetUserInterfaceProperties();
 
-protected:
-    bool event(QEvent* event) override;
-
 private:
     void buildWidgets();
     void addCharacters(QGridLayout& pad);
-    /// Makes the pad a child of the dialog that would lock it out.
-    void followModalDialog();
-    void follow(const QWidget& window);
 
+    ModalFollower* m_follower;
     QLineEdit* m_text1 = nullptr;
 };
 
