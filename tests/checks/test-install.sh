@@ -15,6 +15,7 @@ failed=0
 for file in \
     bin/lingomat \
     share/lingomat/{Example.lmt,ExampleGerman.lmt,marke.gif} \
+    share/lingomat/help/{de,en}/contents.html \
     share/applications/org.lingomat.Lingomat.desktop \
     share/metainfo/org.lingomat.Lingomat.metainfo.xml \
     share/mime/packages/org.lingomat.Lingomat.xml \
