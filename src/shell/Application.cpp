@@ -16,11 +16,12 @@ Application::Application(const Environment& environment)
       m_values(environment.prompts),
       m_context{m_state,   environment.prompts, m_settings,         m_values,
                 m_columns, m_progress,          environment.random, environment.today},
+      m_help(environment.prompts, environment.programFolder),
       m_liste(m_context),
       m_trainer(m_context, m_liste),
       m_form2(m_context, m_liste, m_trainer),
-      m_form1(m_context, {m_splash, m_liste, m_trainer, m_form2},
-              {environment.programFolder, environment.workArea}) {
+      m_form1(m_context, {m_splash, m_liste, m_trainer, m_form2, m_help},
+              {environment.programFolder, environment.workArea, environment.desktop}) {
     connectForms();
 }
 
@@ -34,6 +35,8 @@ void Application::connectForms() {
     QObject::connect(&m_form2, &Form2::selectionMade, &m_form1, &Form1::GreyOut);
     QObject::connect(&m_trainer, &Trainer::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_form2, &Form2::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
+
+    QObject::connect(&m_form1, &Form1::exitRequested, &m_help, &Help::close);
 
     // The end. Not QCoreApplication::quit, which would close the windows once more.
     QObject::connect(&m_form1, &Form1::exitRequested, qApp, [] { QCoreApplication::exit(); });

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "ColumnOptions.h"
+#include "Desktop.h"
 #include "FontHelp.h"
 #include "Form1.h"
 #include "Form2.h"
 #include "FormContext.h"
+#include "Help.h"
 #include "Liste.h"
 #include "Progress.h"
 #include "Prompts.h"
@@ -28,6 +30,7 @@ struct Environment {
     QString programFolder;                 ///< see findProgramFolder()
     std::optional<QString> settingsFolder; ///< none: the user's own
     QString language = builtInterfaceLanguage();
+    Desktop desktop = userDesktop();
 };
 
 /// The program: everything that its forms share, the forms themselves, and the wires between them.
@@ -51,6 +54,7 @@ public:
     [[nodiscard]] Form2& form2() { return m_form2; }
     [[nodiscard]] Liste& liste() { return m_liste; }
     [[nodiscard]] Trainer& trainer() { return m_trainer; }
+    [[nodiscard]] Help& help() { return m_help; }
 
 private:
     void connectForms();
@@ -63,6 +67,7 @@ private:
     ColumnOptions m_columns;
     Progress m_progress;
     FormContext m_context;
+    Help m_help;
     FontHelp m_fontHelp;
     Liste m_liste;
     Trainer m_trainer;

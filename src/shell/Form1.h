@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Desktop.h"
 #include "FormContext.h"
 
 #include <QMainWindow>
@@ -17,6 +18,7 @@ class QPushButton;
 namespace lingomat {
 
 class Form2;
+class Help;
 class Liste;
 class SprachenEingabe;
 class Trainer;
@@ -29,12 +31,14 @@ struct WorkingForms {
     Liste& liste;
     Trainer& trainer;
     Form2& form2;
+    Help& help;
 };
 
 /// What the main window has to know of the machine.
 struct Surroundings {
     QString programFolder;           ///< where the sample files lie
     std::function<QSize()> workArea; ///< of the screen, in pixels
+    Desktop desktop;
 };
 
 /// The main window: which database is open, its languages, the number of entries selected, and the way to
@@ -81,6 +85,10 @@ public:
     void Menu_Datei_Neu_Click(); ///< "&New Vocab Database..."
     void Datei_Open_Click();     ///< "&Open Vocab Database..."
     void Datei_Beispiel_Click(); ///< "Open E&xample..."
+    void mnuHelpInhalt_Click();  ///< "&Content"
+    void mnuHelpSuchen_Click();  ///< "&Search in Help"
+    void mnuHelpInfo_Click();    ///< "&About Lingomat"
+    void mnWeb_Click();          ///< "Lingomat in the &Web"
 
 Q_SIGNALS:
     /// All is closed and hidden; the process is to end.
@@ -162,6 +170,10 @@ private:
     QAction* m_menuAnsichtAuswahl = nullptr;
     QAction* m_menuAuswahlListe = nullptr;
     QAction* m_menuAnsichtVokabeltrainer = nullptr;
+    QAction* m_mnuHelpInhalt = nullptr;
+    QAction* m_mnuHelpSuchen = nullptr;
+    QAction* m_mnuHelpInfo = nullptr;
+    QAction* m_mnWeb = nullptr;
     QLabel* m_dbAnzeige = nullptr;
     QLabel* m_lang1Label = nullptr;
     QLabel* m_lang2Label = nullptr;

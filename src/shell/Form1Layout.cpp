@@ -63,6 +63,8 @@ void Form1::buildWidgets() {
     m_lang1Label = makeLabel(body, "Lang1Label"_L1);
     m_lang2Label = makeLabel(body, "Lang2Label"_L1);
     m_anzahlLabel = makeLabel(body, "AnzahlLabel"_L1);
+    auto* helpKey = new QLabel(body);
+    helpKey->setObjectName("Label1"_L1);
     for (QLabel* language : {m_lang1Label, m_lang2Label}) {
         QFont large = language->font();
         large.setPointSizeF(large.pointSizeF() * 1.3);
@@ -89,7 +91,10 @@ void Form1::buildWidgets() {
     all->setSpacing(12);
     all->addWidget(m_dbAnzeige);
     all->addLayout(languages);
-    all->addWidget(m_anzahlLabel);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(m_anzahlLabel, 1);
+    bottom->addWidget(helpKey);
+    all->addLayout(bottom);
     all->addStretch(1);
     all->addLayout(buttons);
 
@@ -114,6 +119,13 @@ void Form1::buildMenus() {
     m_menuAnsichtAuswahl = makeEntry(*m_menuAnsicht, "Menu_Ansicht_Auswahl"_L1, "selection"_L1);
     m_menuAuswahlListe = makeEntry(*m_menuAnsicht, "Menu_Auswahl_Liste"_L1, "list"_L1);
     m_menuAnsichtVokabeltrainer = makeEntry(*m_menuAnsicht, "Menu_Ansicht_Vokabeltrainer"_L1, "trainer"_L1);
+
+    QMenu* help = makeMenu(*menuBar(), "mnuHelp"_L1);
+    m_mnuHelpInhalt = makeEntry(*help, "mnuHelpInhalt"_L1, "help"_L1);
+    m_mnuHelpSuchen = makeEntry(*help, "mnuHelpSuchen"_L1);
+    help->addSeparator();
+    m_mnuHelpInfo = makeEntry(*help, "mnuHelpInfo"_L1);
+    m_mnWeb = makeEntry(*help, "mnWeb"_L1);
 }
 
 void Form1::connectCommands() {
@@ -135,6 +147,10 @@ void Form1::connectCommands() {
     onChoice(m_menuAnsichtAuswahl, &Form1::Command1_Click);
     onChoice(m_menuAuswahlListe, &Form1::Grid_Click);
     onChoice(m_menuAnsichtVokabeltrainer, &Form1::Command2_Click);
+    onChoice(m_mnuHelpInhalt, &Form1::mnuHelpInhalt_Click);
+    onChoice(m_mnuHelpSuchen, &Form1::mnuHelpSuchen_Click);
+    onChoice(m_mnuHelpInfo, &Form1::mnuHelpInfo_Click);
+    onChoice(m_mnWeb, &Form1::mnWeb_Click);
 }
 
 } // namespace lingomat

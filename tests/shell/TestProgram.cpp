@@ -15,6 +15,23 @@ using namespace Qt::StringLiterals;
 
 namespace lingomat {
 
+Desktop NotedDesktop::inPlace() {
+    return {.openUrl =
+                [this](const QUrl& address) {
+                    opened.append(address);
+                    return hasBrowser;
+                },
+            .findProgram =
+                [this](const QString& name) {
+                    return installed.contains(name) ? "/usr/bin/"_L1 + name : QString();
+                },
+            .startProgram =
+                [this](const QString& program, const QStringList&) {
+                    started.append(program);
+                    return programsStart;
+                }};
+}
+
 TestProgram::TestProgram(QString interfaceLanguage) : language(std::move(interfaceLanguage)) {
     setInterfaceLanguage(language);
     LastErrorText.clear();
@@ -36,6 +53,11 @@ void TestProgram::installSample() {
                   {.lang2 = language == u"En"_s ? u"Englisch"_s : u"Spanisch"_s, .entries = someEntries()});
 }
 
+void TestProgram::installHelp() {
+    if (!QFile::link(QStringLiteral(LINGOMAT_HELP), programFolder() + "/help"_L1))
+        throw std::runtime_error("the help cannot be put into the program folder");
+}
+
 void TestProgram::rememberDatabase(const QString& path) {
     SettingsStore(settingsFolder()).SaveSetting(AppName(), u"Parameters"_s, u"RecentDB"_s, path);
 }
@@ -54,7 +76,8 @@ Application& TestProgram::make() {
                                                               .workArea = [this] { return workArea; },
                                                               .programFolder = programFolder(),
                                                               .settingsFolder = settingsFolder(),
-                                                              .language = language});
+                                                              .language = language,
+                                                              .desktop = desktop.inPlace()});
     return *m_application;
 }
 

@@ -14,6 +14,17 @@ class QLabel;
 
 namespace lingomat {
 
+/// A desktop that only notes what it is asked for.
+struct NotedDesktop {
+    bool hasBrowser = true;
+    bool programsStart = true;
+    QStringList installed; ///< names of programs on the search path
+    QList<QUrl> opened;
+    QStringList started;
+
+    [[nodiscard]] Desktop inPlace();
+};
+
 /// The whole program on an empty home of its own, with a program folder, settings, clock and screen that the
 /// test decides on. Nothing is delivered with it until installSamples().
 class TestProgram {
@@ -30,6 +41,8 @@ public:
     [[nodiscard]] QString sample() const;
     /// Puts a sample with some entries into the program folder.
     void installSample();
+    /// Puts the help of both languages into the program folder.
+    void installHelp();
     /// Makes the program start with that file.
     void rememberDatabase(const QString& path);
     [[nodiscard]] QString recentDatabase() const { return setting("Parameters", "RecentDB"); }
@@ -57,6 +70,7 @@ public:
     FixedRandom random;
     QDate today{2002, 3, 1};
     QSize workArea{1600, 1200};
+    NotedDesktop desktop;
 
 private:
     QTemporaryDir m_home;

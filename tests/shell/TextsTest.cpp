@@ -3,6 +3,7 @@
 #include "Globals.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -21,7 +22,9 @@ struct Caption {
     const char16_t* englishTip = u"";
 };
 
-constexpr Caption Menus[] = {{"Menu_Datei", u"&File", u"Datei"}, {"Menu_Ansicht", u"&View", u"Ansicht"}};
+constexpr Caption Menus[] = {{"Menu_Datei", u"&File", u"Datei"},
+                             {"Menu_Ansicht", u"&View", u"Ansicht"},
+                             {"mnuHelp", u"&Help", u"Hilfe"}};
 constexpr Caption Entries[] = {
     {"Menu_Datei_Neu", u"&New Vocab Database...", u"Neue Vokabeldatenbank..."},
     {"Datei_Open", u"&Open Vocab Database...", u"Öffne Vokabeldatenbank ..."},
@@ -30,6 +33,10 @@ constexpr Caption Entries[] = {
     {"Menu_Ansicht_Auswahl", u"&Selection", u"Auswahl"},
     {"Menu_Auswahl_Liste", u"Vocab &List", u"Liste"},
     {"Menu_Ansicht_Vokabeltrainer", u"&Trainer", u"Vokabeltrainer"},
+    {"mnuHelpInhalt", u"&Content", u"&Inhalt"},
+    {"mnuHelpSuchen", u"&Search in Help", u"Suchen in der Hilfe"},
+    {"mnuHelpInfo", u"&About Lingomat", u"Info"},
+    {"mnWeb", u"Lingomat in the &Web", u"Lingomat im Web"},
 };
 constexpr Caption Buttons[] = {
     {"Command1", u"&Selection", u"Auswahl", u"Opens the Selection Window"},
@@ -56,6 +63,7 @@ TEST_P(Texts, MainWindowFollowsItsTable) {
         EXPECT_EQ(child<QMenu>(form, row.control).title(), caption(row)) << row.control;
     for (const Caption& row : Entries)
         EXPECT_EQ(child<QAction>(form, row.control).text(), caption(row)) << row.control;
+    EXPECT_EQ(child<QLabel>(form, "Label1").text(), GetParam() == u"En"_s ? u"Help: F1"_s : u"Hilfe: F1"_s);
     for (const Caption& row : Buttons) {
         EXPECT_EQ(child<QPushButton>(form, row.control).text(), caption(row)) << row.control;
         const QString tip = GetParam() == u"En"_s ? QString::fromUtf16(row.englishTip) : QString();
@@ -75,6 +83,8 @@ TEST_P(Texts, MenusHoldTheirEntriesInOrder) {
                                                 u"-"_s, u"Menu_Datei_Beenden"_s}));
     EXPECT_EQ(names("Menu_Ansicht"), QStringList({u"Menu_Ansicht_Auswahl"_s, u"Menu_Auswahl_Liste"_s,
                                                   u"Menu_Ansicht_Vokabeltrainer"_s}));
+    EXPECT_EQ(names("mnuHelp"),
+              QStringList({u"mnuHelpInhalt"_s, u"mnuHelpSuchen"_s, u"-"_s, u"mnuHelpInfo"_s, u"mnWeb"_s}));
 }
 
 TEST_P(Texts, MnemonicsOfOneLevelDiffer) {
