@@ -194,6 +194,9 @@ void HelpWindow::fillContents() {
 }
 
 void HelpWindow::comeUp() {
+    const QWidget* asker = QApplication::activeWindow();
+    if (!isVisible() && asker)
+        move(placeBeside(asker->frameGeometry(), frameSize(), usableScreen(*asker)));
     m_follower->followModalDialog();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();

@@ -52,6 +52,7 @@ constexpr FormText texts[] = {
     {"txtSelected", u"", u"",
      u"Hier wird der gerade ausgewählte Eintrag angezeigt, oder Sie können einen neuen Eintrag eingeben",
      u"Here the currently selected entry is displayed, or you can type in a new entry"},
+    {"lblHelp", u"Hilfe: F1", u"Help: F1"},
     {"Add", u"Hinzufügen >>", u"Add >>"},
     {"Remove", u"<< Entfernen", u"<< Remove"},
     {"OK", u"OK", u"OK"},
@@ -153,7 +154,11 @@ void AddListBox::buildWidgets() {
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(lists, 1);
-    column->addWidget(newLabel(u"lblText", txtSelected));
+    auto* aboveText = new QHBoxLayout;
+    aboveText->addWidget(newLabel(u"lblText", txtSelected));
+    aboveText->addStretch();
+    aboveText->addWidget(newLabel(u"lblHelp", nullptr));
+    column->addLayout(aboveText);
     column->addWidget(txtSelected);
     column->addLayout(buttons);
 

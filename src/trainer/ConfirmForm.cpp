@@ -20,6 +20,7 @@ constexpr FormText texts[] = {
     {"Label1", u"Ist das wirklich ein Fehler?", u"Is this really an error?"},
     {"Label2", u"Eingegebener Ausdruck:", u"Expression entered:"},
     {"Label3", u"Gespeicherter Ausdruck:", u"Expression stored:"},
+    {"Label4", u"Hilfe: F1", u"Help: F1"},
     {"Ja", u"Ja", u"Yes"},
     {"Nein", u"Nein", u"No"},
 };
@@ -47,6 +48,7 @@ ConfirmForm::ConfirmForm(QWidget* parent) : QDialog(parent) {
     expressions->addWidget(newLabel(u"Label3"_s), 1, 0, Qt::AlignTop);
     expressions->addWidget(m_stored, 1, 1);
     auto* answers = new QHBoxLayout;
+    answers->addWidget(newLabel(u"Label4"_s));
     answers->addStretch();
     answers->addWidget(m_yes);
     answers->addWidget(no);

@@ -27,6 +27,7 @@ constexpr auto Characters = u"á à â ã å æ ä é è ê ë ì í î ï ó ò
 constexpr FormText texts[] = {
     {"InputFenster", u"Bitte Ausdruck eingeben", u"Please enter expression"},
     {"Label1", u"Bitte Ausdruck eingeben:", u"Please enter expression"},
+    {"Label3", u"Hilfe: F1", u"Help: F1"},
     {"Command1", u"Sonderzeichen...", u"Special Characters"},
     {"OK", u"OK", u"OK"},
     // German in either language.
@@ -80,6 +81,12 @@ void InputFenster::buildWidgets() {
     m_ok->setDefault(true);
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
 
+    auto* helpKey = new QLabel(this);
+    helpKey->setObjectName(u"Label3"_s);
+    auto* top = new QHBoxLayout;
+    top->addWidget(label);
+    top->addStretch();
+    top->addWidget(helpKey);
     auto* tools = new QHBoxLayout;
     tools->addWidget(m_characters);
     tools->addWidget(m_pad);
@@ -88,7 +95,7 @@ void InputFenster::buildWidgets() {
     tools->addWidget(m_ok);
     auto* column = new QVBoxLayout(this);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    column->addWidget(label);
+    column->addLayout(top);
     column->addWidget(m_text);
     column->addLayout(tools);
 }

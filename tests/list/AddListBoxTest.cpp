@@ -512,6 +512,7 @@ TEST_F(Attributes, Texts) {
     EXPECT_EQ(child<QLabel>(*form, "lblAvailable").text(), u"Not Assigned:"_s);
     EXPECT_EQ(child<QLabel>(*form, "lblSelected").text(), u"Assigned:"_s);
     EXPECT_EQ(child<QLabel>(*form, "lblText").text(), u"Selected or New:"_s);
+    EXPECT_EQ(child<QLabel>(*form, "lblHelp").text(), u"Help: F1"_s);
     EXPECT_EQ(field().toolTip(),
               u"Here the currently selected entry is displayed, or you can type in a new entry"_s);
     EXPECT_EQ(list("LbAvailable").toolTip(),
@@ -526,6 +527,7 @@ TEST_F(GermanAttributes, Texts) {
     EXPECT_EQ(child<QLabel>(*form, "lblAvailable").text(), u"Nicht zugewiesen:"_s);
     EXPECT_EQ(child<QLabel>(*form, "lblSelected").text(), u"Zugewiesen:"_s);
     EXPECT_EQ(child<QLabel>(*form, "lblText").text(), u"Ausgewählt bzw. neu:"_s);
+    EXPECT_EQ(child<QLabel>(*form, "lblHelp").text(), u"Hilfe: F1"_s);
     EXPECT_EQ(list("LbAvailable").toolTip(),
               u"Klicken Sie auf den zuzuweisenden Eintrag, dann Schaltfläche Hinzufügen anklicken"_s);
 }
