@@ -22,13 +22,23 @@ using namespace Qt::StringLiterals;
 
 namespace lingomat {
 
+namespace {
+
+/// Of a long expression the beginning.
+void display(QLineEdit& box, const QString& expression) {
+    box.setText(expression);
+    box.setCursorPosition(0);
+}
+
+} // namespace
+
 void NeueRelation::Form_Load() {
     MarkierteZeile = -1;
     AlterTyp.clear();
     SortierungAktiv = false;
     const FlexGrid& list = m_list.MSFlexGrid1();
-    m_text1->setText(list.TextMatrix(list.Row(), Liste::ColSprache1));
-    m_text2->setText(list.TextMatrix(list.Row(), Liste::ColSprache2));
+    display(*m_text1, list.TextMatrix(list.Row(), Liste::ColSprache1));
+    display(*m_text2, list.TextMatrix(list.Row(), Liste::ColSprache2));
     InitialisiereComboxBox();
     if (m_references.StatusAnlegen)
         SetAsCreate();
@@ -50,8 +60,8 @@ void NeueRelation::SetAsCreate() {
 
 void NeueRelation::SetAsChange() {
     setMode(false);
-    m_text3->setText(m_references.cell(Relationen::ColSprache1));
-    m_text4->setText(m_references.cell(Relationen::ColSprache2));
+    display(*m_text3, m_references.cell(Relationen::ColSprache1));
+    display(*m_text4, m_references.cell(Relationen::ColSprache2));
     m_type->setEditText(m_references.cell(Relationen::ColTyp));
     AlterTyp = m_type->currentText();
     m_action->setEnabled(false);
@@ -141,8 +151,8 @@ void NeueRelation::ResetMarke() {
 
 void NeueRelation::Set2ndVoc() {
     const bool marked = MarkierteZeile > 0;
-    m_text3->setText(marked ? m_grid->TextMatrix(MarkierteZeile, ColSprache1) : QString());
-    m_text4->setText(marked ? m_grid->TextMatrix(MarkierteZeile, ColSprache2) : QString());
+    display(*m_text3, marked ? m_grid->TextMatrix(MarkierteZeile, ColSprache1) : QString());
+    display(*m_text4, marked ? m_grid->TextMatrix(MarkierteZeile, ColSprache2) : QString());
     checkComboValue();
 }
 

@@ -392,6 +392,13 @@ TEST_F(NewReference, LanguagesShareTheWidth) {
     EXPECT_EQ(grid().horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(NewReference, ShowsTheBeginningOfALongExpression) {
+    bench.add(u"Abend "_s + QString(80, u'x'), u"evening"_s);
+    create(a);
+    choose(u"Abend "_s + QString(80, u'x'));
+    EXPECT_EQ(child<QLineEdit>(*form, "Text3").cursorPosition(), 0);
+}
+
 TEST_F(NewReference, StartsWhereTheUserHasToChoose) {
     bench.addReference(a, b, u"See also"_s);
     create(a);

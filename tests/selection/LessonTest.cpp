@@ -198,6 +198,16 @@ TEST_F(Lessons, FillTheWholeForm) {
     EXPECT_EQ(bench.listed(), QStringList()) << "nothing is run";
 }
 
+TEST_F(Lessons, ScoreIsTakenWhateverStoodBefore) {
+    bench.type("MinScore", u"5"_s);
+    save(u"Hard"_s);
+    bench.type("MinScore", u"1"_s);
+    bench.type("MaxScore", u"2"_s);
+    type(u"Hard"_s);
+    EXPECT_EQ(bench.text("MinScore") + bench.text("MaxScore"), u"56"_s);
+    EXPECT_EQ(bench.context.prompts.beeps(), 0);
+}
+
 TEST_F(Lessons, ReplaceWhatTheFormShows) {
     save(u"Plain"_s);
     fillForm();
