@@ -8,6 +8,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFragment>
 
 #include <cmath>
 
@@ -18,6 +19,7 @@ namespace lingomat {
 namespace {
 
 constexpr qreal Margin = 14; ///< of a page, in pixels
+constexpr qreal Indent = 26; ///< of a list, in pixels
 constexpr qreal EnoughContrast = 4.5;
 
 qreal linear(qreal channel) {
@@ -49,6 +51,7 @@ QColor readableLinkColour(const QPalette& palette) {
 
 HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
     document()->setDocumentMargin(Margin);
+    document()->setIndentWidth(Indent);
     document()->setUndoRedoEnabled(false);
     applyStyle();
     connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::arrangePage);
@@ -93,24 +96,32 @@ void HelpBrowser::fitPictures(const QUrl& source) {
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            QTextImageFormat picture = fragment.charFormat().toImageFormat();
-            if (!picture.isValid())
+            if (!fragment.charFormat().isImageFormat())
                 continue;
-            const QUrl url = source.resolved(QUrl(picture.name()));
-            const QSizeF natural =
-                document()->resource(QTextDocument::ImageResource, url).value<QPixmap>().size();
-            const qreal width = std::min(natural.width(), room);
-            if (natural.isEmpty() || qFuzzyCompare(picture.width(), width))
-                continue;
-            picture.setWidth(width);
-            picture.setHeight(natural.height() * width / natural.width());
-            QTextCursor cursor(document());
-            cursor.setPosition(fragment.position());
-            cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-            cursor.setCharFormat(picture);
+            fitPicture(fragment, source, room);
             break; // the fragments of this block are others now; each picture stands in one of its own
         }
     }
+}
+
+void HelpBrowser::fitPicture(const QTextFragment& fragment, const QUrl& source, qreal room) {
+    QTextImageFormat format = fragment.charFormat().toImageFormat();
+    const QUrl name(format.name());
+    const QPixmap picture(source.resolved(name).toLocalFile());
+    const qreal width = std::min<qreal>(picture.width(), room);
+    if (picture.isNull() || qFuzzyCompare(format.width(), width))
+        return;
+    // Scaled here: the page would do it without smoothing.
+    QPixmap scaled = picture.scaledToWidth(qRound(width * devicePixelRatioF()), Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(devicePixelRatioF());
+    document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name), scaled);
+
+    format.setWidth(width);
+    format.setHeight(picture.height() * width / picture.width());
+    QTextCursor cursor(document());
+    cursor.setPosition(fragment.position());
+    cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+    cursor.setCharFormat(format);
 }
 
 void HelpBrowser::markWords(const QStringList& words) {

@@ -2,6 +2,8 @@
 
 #include <QTextBrowser>
 
+class QTextFragment;
+
 namespace lingomat {
 
 /// A colour for links that can be read on the palette's ground: the palette's own where the two differ
@@ -27,6 +29,7 @@ private:
     void applyStyle();
     void arrangePage(const QUrl& source);
     void fitPictures(const QUrl& source);
+    void fitPicture(const QTextFragment& fragment, const QUrl& source, qreal room);
 };
 
 } // namespace lingomat

@@ -22,6 +22,8 @@
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -90,7 +92,8 @@ HelpWindow::HelpWindow(HelpBook book, QWidget* parent)
     const QSize wanted(metrics.averageCharWidth() * WidthInCharacters, metrics.lineSpacing() * HeightInLines);
     resize(wanted.boundedTo(usableScreen(*this).size() * 9 / 10));
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({metrics.averageCharWidth() * PanelInCharacters, width()});
+    const int panel = std::min(metrics.averageCharWidth() * PanelInCharacters, width() / 3);
+    splitter->setSizes({panel, width() - panel});
 }
 
 QAction* HelpWindow::addTool(const char* name, QLatin1StringView iconName) {
