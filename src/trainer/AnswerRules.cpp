@@ -20,7 +20,10 @@ QString cleanedAnswer(const QString& typed, const EqualCharacters& equal) {
 }
 
 bool isExactAnswer(const QString& answer, const ExpressionParts& stored, const AnswerRules& rules) {
-    const QString expected = rules.mainOnly ? extract(stored.main) : composed(trimmed(stored));
+    // An answer has been mapped once by now. The main part is, too, so that pairs which lead on from one to
+    // the next (a to b, b to c) take both sides equally far.
+    const QString expected =
+        rules.mainOnly ? rules.equal.WorkInException(extract(stored.main)) : composed(trimmed(stored));
     return rules.equal.WorkInException(extract(answer)) == rules.equal.WorkInException(expected);
 }
 

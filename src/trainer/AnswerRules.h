@@ -18,7 +18,8 @@ struct AnswerRules {
 /// The answer as it was meant: equal characters mapped, without blanks at its ends.
 [[nodiscard]] QString cleanedAnswer(const QString& typed, const EqualCharacters& equal);
 
-/// Whether the answer is the stored expression, character by character; upper and lower case differ.
+/// Whether the answer is the stored expression, character by character; upper and lower case differ. The
+/// answer is one that cleanedAnswer() gave.
 [[nodiscard]] bool isExactAnswer(const QString& answer, const ExpressionParts& stored,
                                  const AnswerRules& rules);
 

@@ -182,6 +182,9 @@ private:
     [[nodiscard]] ExpressionParts storedParts(int language) const;
     void askForAnswer();
     [[nodiscard]] bool isAnswerRight(const QString& answer);
+    [[nodiscard]] bool isExact(const QString& answer);
+    [[nodiscard]] bool isKnownSynonym(const QString& input);
+    [[nodiscard]] QString knownRelation(const QString& input);
     [[nodiscard]] bool regardAsCorrect(const QString& question);
     [[nodiscard]] bool isErrorWaived();
     [[nodiscard]] bool hasSynonym(const QString& criterion, const QString& input);

@@ -16,6 +16,9 @@
 #include <QAction>
 #include <QPushButton>
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -43,9 +46,7 @@ void Trainer::DoFehlerhandlingMitSchreiben() {
     ZeigeLoesung = 1;
     Command3_Click();
     m_grid->setRow(SolutionRow);
-    bool right = false;
-    attempt([this, &right] { right = isAnswerRight(m_input->Ausdruck); });
-    if (right)
+    if (isAnswerRight(m_input->Ausdruck))
         acceptAnswer();
     else
         rejectAnswer();
@@ -62,11 +63,10 @@ void Trainer::askForAnswer() {
 }
 
 bool Trainer::isAnswerRight(const QString& answer) {
-    const EqualCharacters& equal = m_context.state.Exceptions;
-    if (isExactAnswer(answer, storedParts(targetLanguage()), {equal, MainOnly}))
+    if (isExact(answer))
         return true;
-    const QString input = equal.WorkInException(extract(answer));
-    if (IsSynonym(input))
+    const QString input = m_context.state.Exceptions.WorkInException(extract(answer));
+    if (isKnownSynonym(input))
         return regardAsCorrect(
             uiText(
                 u"Der eingegebene Ausdruck wurde in der Datenbank als Synonym für den angeforderten Ausdruck "
@@ -75,7 +75,7 @@ bool Trainer::isAnswerRight(const QString& answer) {
             u'\r' +
             uiText(u"Soll die Eingabe als korrekt gewertet werden?"_s,
                    u"Shall the input be regarded as correct?"_s));
-    const QString type = CheckForSpecialRelation(input);
+    const QString type = knownRelation(input);
     if (!type.isEmpty())
         return regardAsCorrect(
             uiText(u"Der eingegebene Ausdruck wurde in der Datenbank als folgende Referenz bzgl. des "
@@ -87,6 +87,28 @@ bool Trainer::isAnswerRight(const QString& answer) {
             uiText(u"'Soll die Eingabe als korrekt gewertet werden?"_s,
                    u"'Shall the input be regarded as correct?"_s));
     return FehlerBestaetigen && isErrorWaived();
+}
+
+// A look-up that fails has found nothing, and the next one is made all the same.
+
+bool Trainer::isExact(const QString& answer) {
+    bool exact = false;
+    attempt([&] {
+        exact = isExactAnswer(answer, storedParts(targetLanguage()), {m_context.state.Exceptions, MainOnly});
+    });
+    return exact;
+}
+
+bool Trainer::isKnownSynonym(const QString& input) {
+    bool known = false;
+    attempt([&] { known = IsSynonym(input); });
+    return known;
+}
+
+QString Trainer::knownRelation(const QString& input) {
+    QString type;
+    attempt([&] { type = CheckForSpecialRelation(input); });
+    return type;
 }
 
 /// The four parts of the entry on the screen, from the row of the list.
@@ -131,11 +153,16 @@ QString Trainer::CheckForSpecialRelation(const QString& input) {
     const QString key = currentKey();
     if (key == NewEntry)
         return {};
-    const QString criterion = u"(von LIKE '"_s + key + u"' OR nach LIKE '"_s + key + u"') AND (Typ LIKE '"_s +
-                              RefAehnlicheBedeutung + asked + u"' OR Typ LIKE '"_s + RefAndereBedeutung +
-                              asked + u"')"_s;
+    // The type is compared here: the name of a language may hold what means something in a criterion.
+    const std::array types{RefAehnlicheBedeutung + asked, RefAndereBedeutung + asked};
+    const QString criterion = u"von LIKE '%1' OR nach LIKE '%1'"_s.arg(key);
     dao::Recordset& references = m_context.state.DBHandler.RecordsetReferenzen;
     for (references.FindFirst(criterion); isFound(references); references.FindNext(criterion)) {
+        const QString type = references.field(u"Typ"_s).toText(QString());
+        if (std::none_of(types.begin(), types.end(), [&type](const QString& wanted) {
+                return type.compare(wanted, Qt::CaseInsensitive) == 0;
+            }))
+            continue;
         const QString other = otherEnd(references, key);
         if (!PositioniereRecord(other)) {
             Message dangling;
@@ -144,7 +171,7 @@ QString Trainer::CheckForSpecialRelation(const QString& input) {
             return {};
         }
         if (meansOtherEntry(other, input))
-            return references.field(u"Typ"_s).toText();
+            return type;
     }
     return {};
 }

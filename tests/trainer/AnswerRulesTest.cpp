@@ -63,6 +63,15 @@ TEST(AnswerRules, EqualCharactersWorkOnEitherSide) {
     EXPECT_EQ(cleanedAnswer(u"  a!ä b  "_s, equal), u"a¡a b");
 }
 
+TEST(AnswerRules, PairsThatLeadOnTakeTheMainPartAsFarAsTheAnswer) {
+    for (const QStringList& pairs : {QStringList{u"ab"_s, u"bc"_s}, QStringList{u"ab"_s, u"ba"_s}}) {
+        const EqualCharacters equal = equalCharacters(pairs);
+        for (const QString& text : {u"a"_s, u"b"_s, u"abba"_s})
+            EXPECT_TRUE(isExactAnswer(cleanedAnswer(text, equal), plain(text), {equal, true}))
+                << text.toStdString();
+    }
+}
+
 TEST(AnswerRules, CaseCountsInEveryScriptForAnExactAnswerAndInNoneForANearOne) {
     const EqualCharacters none;
     for (const auto& [answer, stored] : {std::pair{u"haus"_s, u"Haus"_s}, std::pair{u"ΛΌΓΟΣ"_s, u"λόγος"_s},
