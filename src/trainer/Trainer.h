@@ -171,8 +171,13 @@ private:
     [[nodiscard]] bool moveToOpenEntry();
     void moveTo(int position);
     void showMovedTo();
+    void showCurrentEntry(); ///< the one at Position
+    [[nodiscard]] int listRows() const;
     void clearDisplay();
+    void forgetEntry(); ///< takes the entry off the screen; the progress stays
     void showEntry(int row);
+    void showProgress();
+    [[nodiscard]] bool canJudge() const; ///< whether the entry at Position is the one on the screen
     void sayEndOfSequence();
     void attempt(const std::function<void()>& step); ///< under the error trap
 
@@ -223,6 +228,7 @@ private:
 
     /// The entry on the screen: its key and its own texts. Empty while nothing is shown.
     struct ShownEntry {
+        bool isListed = false; ///< false: nothing is shown
         QString key;
         std::array<QString, 2> expressions;
     };

@@ -39,7 +39,7 @@ QString Trainer::currentKey() const {
 }
 
 void Trainer::DoFehlerhandlingMitSchreiben() {
-    if (!Selbsttest || !Schreiben)
+    if (!Selbsttest || !Schreiben || !canJudge())
         return;
     askForAnswer();
     // The solution comes up before the verdict.

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace lingomat {
 
 void Trainer::DoFehlerhandlingOhneSchreiben() {
-    if (!Selbsttest || Schreiben)
+    if (!Selbsttest || Schreiben || !canJudge())
         return;
     m_context.prompts.exec(*m_confirmKnown);
     if (m_confirmKnown->Ergebnis != u"Yes"_s) {
@@ -36,7 +36,10 @@ void Trainer::ChangeErrorCount(int verdict) {
     int score = 0;
     const bool isListed = trapped(m_context.prompts, [&] {
         FlexGrid& entries = m_liste.MSFlexGrid1();
-        entries.setRow(AktuelleZeile());
+        const int row = AktuelleZeile();
+        if (row < 1) // the header has no score
+            throw dao::Error(dao::ErrorNumber::SubscriptOutOfRange, u"Subscript out of range"_s);
+        entries.setRow(row);
         key = entries.TextMatrix(entries.Row(), Liste::ColSchluessel);
         entries.setCol(Liste::ColScore);
         score = scoreAfterVerdict(entries.Text(), right);

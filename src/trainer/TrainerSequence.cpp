@@ -7,8 +7,6 @@
 #include "Liste.h"
 #include "Progress.h"
 #include "SharedState.h"
-#include "TrainerPanels.h"
-#include "TrainerReferences.h"
 #include "TrainingWalk.h"
 
 #include <QLabel>
@@ -24,7 +22,7 @@ namespace lingomat {
 void Trainer::Command6_Click() {
     endSynonyms();
     showSynonymButtons(false);
-    attempt([this] { AnzahlEintraege = dao::toInteger16(m_liste.MSFlexGrid1().Rows() - 1); });
+    attempt([this] { AnzahlEintraege = dao::toInteger16(m_liste.countRows()); });
     if (Reihenfolge_shuffle)
         attempt([this] { shuffle(); });
     m_progressBar->setVisible(!Reihenfolge_random);
@@ -76,7 +74,9 @@ void Trainer::Command3_Click() {
 }
 
 void Trainer::revealSolution() {
-    attempt([this] { ZeigeVokabel(AktuelleZeile()); });
+    // In random order nothing may have been drawn yet; then what was browsed to stays.
+    if (Position > 0 || !Reihenfolge_random)
+        showCurrentEntry();
     ZeigeLoesung = 0;
     DoFehlerhandlingOhneSchreiben();
 }
@@ -92,12 +92,12 @@ void Trainer::askNext() {
         }
         RowPositionToUI();
     }
-    if (Position >= m_liste.MSFlexGrid1().Rows()) {
+    if (Position >= listRows()) {
         sayEndOfSequence();
         --Position;
         return;
     }
-    attempt([this] { ZeigeVokabel(AktuelleZeile()); });
+    showCurrentEntry();
     ZeigeLoesung = 1;
     showSynonymButtons(true);
     DoFehlerhandlingMitSchreiben();
@@ -114,7 +114,7 @@ bool Trainer::SetIndexAccordingToSchleife() {
     const LoopPlace place = nextOpenPlace(Position, RundenPosition,
                                           {.status = SchleifeStatus,
                                            .entries = AnzahlEintraege,
-                                           .rows = m_liste.MSFlexGrid1().Rows(),
+                                           .rows = listRows(),
                                            .answeredRight = AnzahlRichtig});
     Position = dao::toInteger16(place.position);
     RundenPosition = dao::toInteger16(place.roundPosition);
@@ -127,21 +127,21 @@ bool Trainer::SetIndexAccordingToSchleife() {
 
 void Trainer::back_Click() {
     moveTo(1);
-    if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows())
+    if (Position > 0 && Position < listRows())
         showMovedTo();
     showSynonymButtons(true);
 }
 
 void Trainer::ToEnd_Click() {
-    moveTo(m_liste.MSFlexGrid1().Rows() - 1);
-    if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows())
+    moveTo(listRows() - 1);
+    if (Position > 0 && Position < listRows())
         showMovedTo();
     showSynonymButtons(true);
 }
 
 void Trainer::Command1_Click() {
     moveTo(Position - 1);
-    if (Position > 0 && Position < m_liste.MSFlexGrid1().Rows()) {
+    if (Position > 0 && Position < listRows()) {
         showMovedTo();
     } else {
         Message beginning;
@@ -154,7 +154,7 @@ void Trainer::Command1_Click() {
 
 void Trainer::Command2_Click() {
     moveTo(Position + 1);
-    if (Position < m_liste.MSFlexGrid1().Rows()) {
+    if (Position < listRows()) {
         showMovedTo();
     } else {
         sayEndOfSequence();
@@ -174,13 +174,30 @@ void Trainer::moveTo(int position) {
 }
 
 void Trainer::showMovedTo() {
-    attempt([this] { ZeigeVokabel(Reihenfolge_random ? randomRow() : AktuelleZeile()); });
+    if (!Reihenfolge_random) {
+        showCurrentEntry();
+        return;
+    }
+    attempt([this] { ZeigeVokabel(randomRow()); });
+}
+
+void Trainer::showCurrentEntry() {
+    int row = 0;
+    if (trapped(m_context.prompts, [this, &row] { row = AktuelleZeile(); }))
+        ZeigeVokabel(row);
+    else
+        forgetEntry();
 }
 
 void Trainer::sayEndOfSequence() {
     Message end;
     end.text = uiText(u"Die Sequenz ist beendet."_s, u"End of sequence."_s);
     m_context.prompts.message(this, end);
+}
+
+/// Rows of the list, the header included; the placeholder of an empty list is no entry.
+int Trainer::listRows() const {
+    return m_liste.countRows() + 1;
 }
 
 int Trainer::returnSequenz(int index) const {
@@ -198,28 +215,42 @@ bool Trainer::PositioniereRecord(const QString& id) {
 void Trainer::ZeigeVokabel(int row) {
     if (!Schreiben)
         clearVerdict();
-    if (row == 0)
+    if (row == 0) {
         clearDisplay();
-    else
-        showEntry(row);
+    } else {
+        if (!trapped(m_context.prompts, [this, row] { showEntry(row); }))
+            forgetEntry(); // its row is gone, and the one before it must not be taken for it
+        showProgress();
+    }
     m_grid->setRow(QuestionRow);
     m_grid->setCol(0);
 }
 
 void Trainer::clearDisplay() {
-    m_shown = {};
-    endSynonyms();
-    setExpression(QuestionRow, {});
-    setExpression(SolutionRow, {});
-    ClearDetails();
+    forgetEntry();
     m_progressBar->setRange(0, std::max<int>(AnzahlEintraege, 1));
     m_progressBar->setValue(0);
     showSynonymButtons(false);
 }
 
+void Trainer::forgetEntry() {
+    m_shown = {};
+    endSynonyms();
+    setExpression(QuestionRow, {});
+    setExpression(SolutionRow, {});
+    ClearDetails();
+}
+
+bool Trainer::canJudge() const {
+    return Position > 0 && m_shown.isListed;
+}
+
 void Trainer::showEntry(int row) {
+    if (row >= listRows())
+        throw dao::Error(dao::ErrorNumber::SubscriptOutOfRange, u"Subscript out of range"_s);
     FlexGrid& entries = m_liste.MSFlexGrid1();
     const ShownEntry entry{
+        true,
         entries.TextMatrix(row, Liste::ColSchluessel),
         {entries.TextMatrix(row, Liste::ColSprache1), entries.TextMatrix(row, Liste::ColSprache2)}};
     entries.setRow(row);
@@ -236,18 +267,20 @@ void Trainer::showEntry(int row) {
         ClearDetails();
         clearVerdict();
     }
+}
+
+void Trainer::showProgress() {
     if (Reihenfolge_random)
         return;
+    m_progressBar->setVisible(true); // random order has hidden it
     const int place = Selbsttest && Schleife ? RundenPosition : Position;
     m_progressBar->setValue(std::min(place, m_progressBar->maximum()));
     m_statusPanels[PanelPosition]->setText(QString::number(place));
 }
 
 void Trainer::InitStatusBar() {
-    const int rows = m_liste.MSFlexGrid1().Rows();
-    const bool isPlaceholder = rows == 2 && m_panels->references().heightOfRow1() == 0;
-    m_statusPanels[PanelEntries]->setText(QString::number(rows - (isPlaceholder ? 2 : 1)));
-    m_statusPanels[PanelPosition]->setText(u"0"_s);
+    m_statusPanels[PanelEntries]->setText(QString::number(m_liste.countRows()));
+    m_statusPanels[PanelPosition]->setText(Reihenfolge_random ? QString() : u"0"_s);
 }
 
 void Trainer::attempt(const std::function<void()>& step) {

@@ -129,3 +129,56 @@ TEST(Loop, RestartOfAnEmptySessionLeavesTheArrayAsItWas) {
     bench.setEntries(0);
     EXPECT_EQ(bench.trainer.SchleifeStatus.size(), 2);
 }
+
+TEST(Loop, AfterAnEmptyRestartTheOldArrayIsGoneThrough) {
+    LoopBench bench(2);
+    bench.ask(1);
+    bench.answer(true);
+    bench.trainer.SchleifeStatus(1) = LoopEntryDone;
+    bench.setEntries(0);
+    for (int repeated = 0; repeated < 2; ++repeated) {
+        bench.expectEnd(); // entry 2 is open, and has no row
+        bench.step();
+        EXPECT_EQ(bench.trainer.Position, 1);
+    }
+    bench.trainer.SchleifeStatus(2) = LoopEntryDone;
+    bench.context.prompts.expectError(u"Subscript out of range"_s);
+    bench.expectEnd();
+    bench.step();
+}
+
+TEST(Loop, OfOneEntryAsksItUntilItIsRight) {
+    LoopBench bench(1);
+    for (const bool right : {false, false, true}) {
+        bench.ask(1);
+        EXPECT_EQ(bench.panel(2), u"1");
+        EXPECT_EQ(bench.panel(4), u"1");
+        bench.answer(right);
+    }
+    EXPECT_EQ(bench.stored(1), u"4") << "up twice, down once";
+    bench.expectEnd();
+    bench.step();
+}
+
+TEST(Loop, WaivedErrorsLeadToItsEnd) {
+    LoopBench bench(2);
+    bench.trainer.Schreiben = true;
+    bench.trainer.FehlerBestaetigen = true;
+    const auto answer = [&bench](bool isError) {
+        bench.willType(u"mouse"_s);
+        bench.context.prompts.expectDialog("ConfirmForm", [isError](QDialog& form) {
+            child<QPushButton>(form, isError ? "Ja" : "Nein").click();
+        });
+        bench.step();
+    };
+    answer(false);
+    answer(true);
+    EXPECT_EQ(bench.question(), u"Wort 2");
+    answer(false);
+    EXPECT_EQ(bench.question(), u"Wort 2") << "the only one left";
+    EXPECT_EQ(bench.trainer.AnzahlRichtig, 2);
+    bench.expectEnd();
+    bench.step();
+    EXPECT_EQ(bench.stored(1), u"2");
+    EXPECT_EQ(bench.stored(2), u"3");
+}

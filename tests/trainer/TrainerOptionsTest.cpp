@@ -123,6 +123,67 @@ TEST(Options, RandomOrderHidesTheProgressAndBlanksThePosition) {
     EXPECT_EQ(bench.panel(4), u"0");
 }
 
+TEST(Options, TheProgressComesBackWithTheNextRendering) {
+    TrainingBench bench(3);
+    bench.trainer.show();
+    bench.choose("Reihenfolge_random");
+    bench.draw({2});
+    bench.step();
+    bench.choose("Reihenfolge_sequentiell");
+    EXPECT_EQ(bench.trainer.Position, 2);
+    bench.step();
+    EXPECT_TRUE(bench.bar().isVisible());
+    EXPECT_EQ(bench.bar().value(), 2);
+    EXPECT_EQ(bench.panel(4), u"2");
+}
+
+TEST(Options, InRandomOrderThePositionStaysBlankAfterARestart) {
+    TrainingBench bench(3);
+    bench.choose("Reihenfolge_random");
+    bench.button("Command6").click();
+    EXPECT_EQ(bench.panel(4), QString());
+    bench.choose("menNeustart");
+    EXPECT_EQ(bench.panel(4), QString());
+    bench.trainer.Command6_Click(); // as after a change of the list's rows
+    EXPECT_EQ(bench.panel(4), QString());
+    EXPECT_EQ(bench.panel(2), u"3");
+    EXPECT_FALSE(bench.shown("ProgressBar1"));
+}
+
+TEST(Options, RandomOrderRestartsWithoutTheLoop) {
+    TrainingBench bench;
+    bench.openFileWith(3);
+    bench.choose("Selbsttest");
+    bench.choose("Schleife");
+    bench.step();
+    bench.context.prompts.expectInformation(ExpectedText::anything());
+    bench.choose("Reihenfolge_random");
+    EXPECT_EQ(bench.trainer.Position, 0);
+    EXPECT_FALSE(bench.option("Schleife").isChecked());
+    EXPECT_FALSE(bench.option("Schleife").isEnabled());
+    for (int repeated = 0; repeated < 2; ++repeated) { // what was right comes again
+        bench.draw({1});
+        bench.step();
+        EXPECT_EQ(bench.question(), u"Wort 1");
+        bench.willConfirm(true);
+        bench.step();
+    }
+    EXPECT_EQ(bench.trainer.SchleifeStatus(1), 1);
+}
+
+TEST(Options, InTheLoopTheOrderOfTheListRestartsEachTime) {
+    TrainingBench bench;
+    bench.openFileWith(3);
+    bench.choose("Selbsttest");
+    bench.choose("Schleife");
+    for (int repeated = 0; repeated < 2; ++repeated) {
+        bench.step();
+        EXPECT_EQ(bench.trainer.Position, 1);
+        bench.choose("Reihenfolge_sequentiell");
+        EXPECT_EQ(bench.trainer.Position, 0);
+    }
+}
+
 TEST(Options, ALanguageSwapKeepsTheSession) {
     TrainingBench bench(3);
     bench.step();

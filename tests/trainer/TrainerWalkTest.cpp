@@ -79,6 +79,26 @@ TEST(Walk, AnEmptySessionEndsAtItsFirstStep) {
     EXPECT_EQ(bench.question(), QString());
 }
 
+TEST(Walk, ThePlaceholderOfAnEmptyListIsNoEntry) {
+    TrainingBench bench(1);
+    EXPECT_EQ(bench.panel(2), u"1");
+    bench.list.LoescheListe();
+    ASSERT_EQ(bench.list.MSFlexGrid1().Rows(), 2);
+    bench.trainer.Command6_Click();
+    EXPECT_EQ(bench.trainer.AnzahlEintraege, 0);
+    EXPECT_EQ(bench.panel(2), u"0");
+    bench.expectEnd();
+    bench.step();
+    bench.trainer.ToEnd_Click();
+    EXPECT_EQ(bench.trainer.Position, 0);
+    bench.choose("Reihenfolge_random");
+    bench.expectEnd();
+    bench.step();
+    bench.context.prompts.expectErrorContaining(u"ubscript"_s);
+    bench.trainer.Command2_Click();
+    EXPECT_EQ(bench.panel(2), u"0");
+}
+
 TEST(Walk, RestartForgetsWhereTheSessionStood) {
     TrainingBench bench(3);
     bench.step();
@@ -293,6 +313,41 @@ TEST(Navigation, InAnEmptySessionNothingIsShown) {
     bench.context.prompts.expect({.text = u"Beginning"});
     bench.trainer.Command1_Click();
     EXPECT_EQ(bench.question(), QString());
+}
+
+TEST(Navigation, AlwaysShowsTheArrowsOfTheSynonyms) {
+    struct Move {
+        void (Trainer::*act)();
+        const char16_t* text; // of the message where there is no entry
+    };
+    for (const Move& move : {Move{&Trainer::back_Click, nullptr}, Move{&Trainer::ToEnd_Click, nullptr},
+                             Move{&Trainer::Command1_Click, u"Beginning"},
+                             Move{&Trainer::Command2_Click, u"End of sequence."}}) {
+        for (const int entries : {0, 3}) {
+            TrainingBench bench(entries);
+            bench.trainer.Position = 2;
+            if (entries == 0)
+                bench.trainer.Position = 0;
+            if (entries == 0 && move.text)
+                bench.context.prompts.expect({.text = move.text});
+            ASSERT_FALSE(bench.shown("UpDown1"));
+            (bench.trainer.*move.act)();
+            EXPECT_TRUE(bench.shown("UpDown1"));
+            EXPECT_TRUE(bench.shown("UpDown2"));
+        }
+    }
+}
+
+TEST(Navigation, InRandomOrderAnEmptySessionHasNothingToDraw) {
+    TrainingBench bench(0);
+    bench.choose("Reihenfolge_random");
+    bench.expectEnd();
+    bench.step();
+    EXPECT_EQ(bench.trainer.Position, 0);
+    bench.context.prompts.expectErrorContaining(u"ubscript"_s);
+    bench.trainer.Command2_Click();
+    EXPECT_EQ(bench.question(), QString());
+    EXPECT_EQ(bench.trainer.Position, 0);
 }
 
 TEST(Navigation, InRandomOrderForwardDrawsAndStaysWhereItIs) {
