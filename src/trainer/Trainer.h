@@ -203,7 +203,8 @@ private:
     [[nodiscard]] int languageOfRow(GridRow row) const;
     void connectSynonyms(const SynonymButtons& buttons, GridRow row);
     [[nodiscard]] bool findSynonym(SynonymStep step, int language);
-    void endSynonyms();
+    void endSynonyms();             ///< in both languages
+    void endSynonyms(int language); ///< the next press starts again
     void showSynonymButtons(bool visible);
 
     // Search.

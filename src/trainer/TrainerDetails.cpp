@@ -46,6 +46,7 @@ void Trainer::showDetails(int row) {
         loadReferences();
 }
 
+/// Those of the entry on the screen, whatever row the list stands on by now.
 void Trainer::loadReferences() {
     m_panels->references().setLanguage1First(Lang1Zuerst);
     m_panels->references().load(m_shown.key);

@@ -47,6 +47,7 @@ void TrainerReferences::buildWidgets() {
     m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_combo->setMinimumContentsLength(8);
     connect(m_combo, &QComboBox::currentIndexChanged, this, &TrainerReferences::ReferenzenCombo_Click);
+    connect(m_combo, &QComboBox::activated, this, &TrainerReferences::returnToFirstOfType);
 
     const auto newStep = [this](const QString& name, QLatin1StringView picture, int direction) {
         auto* button = new QPushButton(this);
@@ -61,19 +62,9 @@ void TrainerReferences::buildWidgets() {
 
     m_grid = new FlexGrid(this);
     m_grid->setObjectName(u"MSFlexGrid1"_s);
-    m_note = new QFrame(this);
-    m_note->setObjectName(u"frNoReferences"_s);
-    m_note->setFrameShape(QFrame::StyledPanel);
-    auto* note = new QLabel(m_note);
-    note->setObjectName(u"labNoReferences"_s);
-    note->setTextFormat(Qt::PlainText);
-    note->setAlignment(Qt::AlignCenter);
-    auto* noteLayout = new QVBoxLayout(m_note);
-    noteLayout->addWidget(note);
-
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(m_grid);
-    m_pages->addWidget(m_note);
+    InitialisiereNoReferences();
 
     auto* steps = new QHBoxLayout;
     steps->addWidget(m_combo, 1);
@@ -84,11 +75,25 @@ void TrainerReferences::buildWidgets() {
     column->addWidget(m_pages, 1);
 }
 
+void TrainerReferences::InitialisiereNoReferences() {
+    m_note = new QFrame(this);
+    m_note->setObjectName(u"frNoReferences"_s);
+    m_note->setFrameShape(QFrame::StyledPanel);
+    auto* note = new QLabel(m_note);
+    note->setObjectName(u"labNoReferences"_s);
+    note->setTextFormat(Qt::PlainText);
+    note->setAlignment(Qt::AlignCenter);
+    auto* noteLayout = new QVBoxLayout(m_note);
+    noteLayout->addWidget(note);
+    m_pages->addWidget(m_note);
+}
+
 void TrainerReferences::SetRelationGridSettings() {
     m_grid->setRows(GridRowCount);
     m_grid->setCols(1);
     m_grid->setFixedRows(0);
-    m_grid->setFixedCols(0);
+    m_grid->setFixedCols(
+        0); // a fixed column would stand there as a margin, and the expressions could not wrap
     m_grid->setAllowUserResizing(false);
     m_grid->setWordWrap(true);
     m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -125,10 +130,6 @@ void TrainerReferences::fitRelationGrid() {
 
 void TrainerReferences::setText(GridRow row, const QString& text) {
     m_grid->setTextMatrix(row, 0, text);
-}
-
-int TrainerReferences::heightOfRow1() const {
-    return m_grid->RowHeight(FirstRow);
 }
 
 void TrainerReferences::load(const QString& key) {
@@ -231,6 +232,12 @@ void TrainerReferences::ReferenzenCombo_Click() {
     enableSteps();
 }
 
+/// The user may choose the type that is shown already, having stepped on from its first reference.
+void TrainerReferences::returnToFirstOfType() {
+    if (RefIndex != RefTypen.indexOf(m_combo->currentText()) + 1)
+        ReferenzenCombo_Click();
+}
+
 bool TrainerReferences::getIndexOfNthEntryForCurrent(int n) {
     const QString type = m_combo->currentText();
     int place = 0;
@@ -260,6 +267,8 @@ void TrainerReferences::enableSteps() {
     m_forward->setEnabled(RefIndex < RefAnzahl);
 }
 
+/// Where the other end is gone, the grid goes on showing the reference before; the box names the type that
+/// was asked for, from which the buttons step on.
 void TrainerReferences::DisplayRelation(int index) {
     if (index < 1 || index > RefTypen.size())
         return;

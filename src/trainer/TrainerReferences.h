@@ -30,8 +30,6 @@ public:
     /// Shows the note in place of the references.
     void ClearRelationGrid();
     void InvertRelationGrid(); ///< swaps the two expressions
-    /// Height of the row with the first expression.
-    [[nodiscard]] int heightOfRow1() const;
 
     // The references of the entry, counted from 1.
     qint16 RefAnzahl = 0;    ///< how many
@@ -49,6 +47,7 @@ private:
     enum GridRow { TypeRow, FirstRow, SecondRow, GridRowCount };
 
     void buildWidgets();
+    void InitialisiereNoReferences(); ///< puts the note where the grid stands
     void SetRelationGridSettings();
     void fitRelationGrid();
     void setText(GridRow row, const QString& text);
@@ -58,6 +57,7 @@ private:
     [[nodiscard]] bool getIndexOfNthEntryForCurrent(int n);
     void showReferences();
     void ReferenzenCombo_Click();
+    void returnToFirstOfType();
     void DisplayRelation(int index);
     void step(int direction);
     void enableSteps();

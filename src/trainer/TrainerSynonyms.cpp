@@ -30,7 +30,7 @@ void Trainer::SetzeSynonymFilter(int language) {
 void Trainer::ZeigeSynonym(SynonymStep step, int language) {
     if (m_shown.key.isEmpty()) // nothing is on the screen
         return;
-    attempt([this, step, language] {
+    const bool done = trapped(m_context.prompts, [this, step, language] {
         const GridRow row = (language == 1) == Lang1Zuerst ? QuestionRow : SolutionRow;
         const dao::Recordset& synonyms = m_context.state.DBHandler.RecordsetSynonyme;
         if (findSynonym(step, language)) {
@@ -39,15 +39,17 @@ void Trainer::ZeigeSynonym(SynonymStep step, int language) {
             return;
         }
         setExpression(row, m_shown.expressions[languageIndex(language)]);
-        SynonymFilter[languageIndex(language)].clear();
+        endSynonyms(language);
     });
+    if (!done) // its place is lost: the next press starts again
+        endSynonyms(language);
 }
 
 bool Trainer::findSynonym(SynonymStep step, int language) {
     dao::Recordset& synonyms = m_context.state.DBHandler.RecordsetSynonyme;
     const bool isNext = step == SynonymStep::Next;
     const QString& criterion = SynonymFilter[languageIndex(language)];
-    const auto place = m_synonymPlaces[languageIndex(language)];
+    const auto& place = m_synonymPlaces[languageIndex(language)];
     if (criterion.isEmpty() || !place) {
         SetzeSynonymFilter(language);
         isNext ? synonyms.FindFirst(criterion) : synonyms.FindLast(criterion);
@@ -59,8 +61,13 @@ bool Trainer::findSynonym(SynonymStep step, int language) {
 }
 
 void Trainer::endSynonyms() {
-    for (QString& filter : SynonymFilter)
-        filter.clear();
+    endSynonyms(1);
+    endSynonyms(2);
+}
+
+void Trainer::endSynonyms(int language) {
+    SynonymFilter[languageIndex(language)].clear();
+    m_synonymPlaces[languageIndex(language)].reset();
 }
 
 void Trainer::showSynonymButtons(bool visible) {

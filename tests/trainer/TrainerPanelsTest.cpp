@@ -1,44 +1,13 @@
-#include "TrainingBench.h"
+#include "PanelsBench.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QTabBar>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace lingomat;
-
-namespace {
-
-struct PanelsBench : TrainingBench {
-    explicit PanelsBench(const QString& language = u"En"_s) : TrainingBench(0, language) { openFile(); }
-
-    QString field(const char* name) { return child<QLineEdit>(trainer, name).text(); }
-    QString text(const char* name) { return child<QPlainTextEdit>(trainer, name).toPlainText(); }
-    QStringList items(const char* name) {
-        const auto& box = child<QListWidget>(trainer, name);
-        QStringList all;
-        for (int row = 0; row < box.count(); ++row)
-            all += box.item(row)->text();
-        return all;
-    }
-    QTabBar& tabs() { return child<QTabBar>(trainer, "TabStrip1"); }
-    QComboBox& types() { return child<QComboBox>(trainer, "ReferenzenCombo"); }
-    QString relation(int row) { return child<FlexGrid>(trainer, "MSFlexGrid1").TextMatrix(row, 0); }
-    void press(const char* arrow) { child<QToolButton>(trainer, arrow).click(); }
-    void showEntry(int row) {
-        trainer.Position = static_cast<qint16>(row - 1);
-        trainer.Command2_Click();
-    }
-    bool noteIsShown() { return shown("frNoReferences"); }
-};
-
-} // namespace
 
 TEST(Panels, ShowTheAttributesWithTheSolution) {
     for (const auto& [language, none] :
@@ -125,6 +94,23 @@ TEST(Panels, CanBeHiddenAndComeBack) {
     }
 }
 
+TEST(Panels, HiddenTheyLeaveTheDisplayWithItsMargins) {
+    PanelsBench bench(u"De"_s);
+    bench.trainer.resize(1300, 560); // wide enough for the display to take the rest of the window along
+    bench.trainer.show();
+    bench.tabs().setCurrentIndex(1);
+    QApplication::processEvents();
+    const int expected = bench.grid.x() * 3 + bench.grid.width();
+    const int full = bench.trainer.width();
+    bench.action("menDetailsjanein").trigger();
+    EXPECT_EQ(bench.trainer.width(), expected);
+    EXPECT_LT(expected, full);
+    EXPECT_FALSE(bench.action("menDetails").isChecked());
+    bench.action("menDetailsjanein").trigger();
+    EXPECT_TRUE(bench.action("menDetails").isChecked()) << "that of the tab on top";
+    EXPECT_FALSE(bench.action("menAttribute").isChecked());
+}
+
 TEST(Panels, ReferencesAreGroupedByType) {
     PanelsBench bench;
     const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
@@ -182,6 +168,84 @@ TEST(Panels, WithoutReferencesTheNoteStands) {
     }
 }
 
+TEST(Panels, ReferencesAreLoadedWhenTheirTabComesUp) {
+    PanelsBench bench;
+    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
+    const QString b = bench.addEntry(u"Hütte"_s, u"hut"_s);
+    bench.addReference(a, b, u"See also"_s);
+    bench.listEntries();
+    bench.tabs().setCurrentIndex(2);
+    EXPECT_TRUE(bench.noteIsShown()) << "no entry stands there";
+    bench.tabs().setCurrentIndex(0);
+    EXPECT_FALSE(bench.references().isVisible());
+
+    bench.step(); // at the question
+    EXPECT_EQ(bench.types().count(), 0);
+    bench.tabs().setCurrentIndex(2);
+    EXPECT_FALSE(bench.noteIsShown());
+    EXPECT_EQ(bench.relation(1), u"Hütte");
+
+    bench.tabs().setCurrentIndex(1);
+    bench.showEntry(2); // behind another tab nothing is loaded
+    EXPECT_NE(bench.relation(1), u"Haus");
+    bench.tabs().setCurrentIndex(2);
+    EXPECT_EQ(bench.relation(1), u"Haus");
+    EXPECT_EQ(bench.relation(2), u"house");
+}
+
+TEST(Panels, TheTypeThatIsShownAlreadyMayBeChosenAgain) {
+    PanelsBench bench;
+    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
+    const QString b = bench.addEntry(u"Hütte"_s, u"hut"_s);
+    const QString c = bench.addEntry(u"Villa"_s, u"villa"_s);
+    bench.addReference(a, b, u"See also"_s);
+    bench.addReference(a, c, u"See also"_s);
+    bench.addReference(a, c, u"Opposite of"_s);
+    bench.listEntries();
+    bench.trainer.show();
+    bench.tabs().setCurrentIndex(2);
+    bench.showEntry(1);
+    const TrainerReferences& references = bench.references();
+    EXPECT_EQ(references.RefAnzahl, 3);
+    EXPECT_EQ(references.RefTypAnzahl, 2);
+    EXPECT_EQ(references.RefNummer, 1);
+    bench.button("cmdRefForward").click();
+    EXPECT_EQ(bench.relation(1), u"Villa");
+    EXPECT_EQ(references.RefNummer, 2);
+    bench.types().showPopup();
+    QTest::keyClick(bench.types().view(), Qt::Key_Return); // the one under the cursor
+    EXPECT_EQ(bench.types().currentText(), u"See also");
+    EXPECT_EQ(bench.relation(1), u"Hütte");
+    EXPECT_EQ(references.RefIndex, 1);
+    EXPECT_EQ(references.RefNummer, 1);
+    EXPECT_FALSE(bench.button("cmdRefBack").isEnabled());
+    EXPECT_TRUE(bench.button("cmdRefForward").isEnabled());
+    QTest::keyClick(&bench.types(), Qt::Key_Down);
+    EXPECT_EQ(bench.types().currentText(), u"Opposite of");
+    EXPECT_EQ(references.RefTypAnzahl, 1);
+    EXPECT_EQ(references.RefIndex, 3);
+}
+
+TEST(Panels, AFirstReferenceWhoseOtherEndIsGoneIsTold) {
+    for (const auto& [language, text] : {std::pair{u"En"_s, u"An internal error occured!"_s},
+                                         std::pair{u"De"_s, u"Es ist ein interner Fehler aufgetreten!"_s}}) {
+        PanelsBench bench(language);
+        const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
+        const QString b = bench.addEntry(u"Hütte"_s, u"hut"_s);
+        bench.addReference(a, u"999"_s, u"See also"_s);
+        bench.addReference(a, b, u"Opposite of"_s);
+        bench.listEntries();
+        bench.tabs().setCurrentIndex(2);
+        bench.context.prompts.expect({.text = text});
+        bench.showEntry(1);
+        EXPECT_TRUE(bench.context.prompts.isFinished());
+        EXPECT_EQ(bench.types().currentText(), u"See also");
+        EXPECT_EQ(bench.relation(1), QString());
+        bench.button("cmdRefForward").click();
+        EXPECT_EQ(bench.relation(1), u"Hütte");
+    }
+}
+
 TEST(Panels, AReferenceWhoseOtherEndIsGoneLeavesTheGridAsItStood) {
     PanelsBench bench;
     const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
@@ -193,8 +257,13 @@ TEST(Panels, AReferenceWhoseOtherEndIsGoneLeavesTheGridAsItStood) {
     bench.showEntry(1);
     bench.context.prompts.expect({.text = u"An internal error occured!"});
     bench.button("cmdRefForward").click();
+    EXPECT_EQ(bench.relation(0), u"See also");
     EXPECT_EQ(bench.relation(1), u"Hütte");
     EXPECT_EQ(bench.relation(2), u"hut");
+    EXPECT_EQ(bench.types().currentText(), u"Opposite of") << "the box says what was asked for";
+    EXPECT_FALSE(bench.button("cmdRefForward").isEnabled());
+    bench.button("cmdRefBack").click();
+    EXPECT_EQ(bench.types().currentText(), u"See also");
 }
 
 TEST(Panels, ANewEntryHasNeitherReferencesNorSynonyms) {
@@ -209,104 +278,4 @@ TEST(Panels, ANewEntryHasNeitherReferencesNorSynonyms) {
     EXPECT_TRUE(bench.noteIsShown());
     bench.press("UpDown1_Up");
     EXPECT_EQ(bench.question(), u"Haus");
-}
-
-TEST(Synonyms, TheUpperArrowGoesToTheNextTheLowerToThePrevious) {
-    PanelsBench bench;
-    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
-    bench.addSynonym(a, 1, u"Heim"_s, u"das"_s);
-    bench.addSynonym(a, 1, u"Bau"_s);
-    bench.addSynonym(a, 2, u"home"_s);
-    bench.listEntries();
-    bench.showEntry(1);
-    for (const char16_t* expected : {u"das Heim", u"Bau", u"Haus", u"das Heim"}) {
-        bench.press("UpDown1_Up");
-        EXPECT_EQ(bench.question(), expected);
-    }
-    bench.press("UpDown1_Down");
-    EXPECT_EQ(bench.question(), u"Haus");
-    EXPECT_EQ(bench.trainer.SynonymFilter[0], QString());
-    for (const char16_t* expected : {u"Bau", u"das Heim", u"Haus", u"Bau"}) {
-        bench.press("UpDown1_Down");
-        EXPECT_EQ(bench.question(), expected);
-    }
-    EXPECT_EQ(bench.solution(), u"house");
-    bench.press("UpDown2_Up");
-    EXPECT_EQ(bench.solution(), u"home");
-    bench.press("UpDown1_Down"); // goes on where it stood
-    EXPECT_EQ(bench.question(), u"das Heim");
-}
-
-TEST(Synonyms, ArrowsFollowTheLanguageOnTop) {
-    PanelsBench bench;
-    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
-    bench.addSynonym(a, 2, u"home"_s);
-    bench.listEntries();
-    bench.choose("Lang2Zuerst");
-    bench.showEntry(1);
-    bench.press("UpDown1_Up");
-    EXPECT_EQ(bench.question(), u"home");
-    bench.press("UpDown2_Up");
-    EXPECT_EQ(bench.solution(), u"Haus");
-}
-
-TEST(Synonyms, AnotherEntryEndsTheWalk) {
-    PanelsBench bench;
-    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
-    const QString b = bench.addEntry(u"Baum"_s, u"tree"_s);
-    bench.addSynonym(a, 1, u"Heim"_s);
-    bench.addSynonym(a, 1, u"Bau"_s);
-    bench.addSynonym(b, 1, u"Holz"_s);
-    bench.listEntries();
-    bench.showEntry(1);
-    bench.press("UpDown1_Up");
-    EXPECT_NE(bench.trainer.SynonymFilter[0], QString());
-    bench.showEntry(2);
-    EXPECT_EQ(bench.trainer.SynonymFilter[0], QString());
-    bench.press("UpDown1_Up");
-    EXPECT_EQ(bench.question(), u"Holz");
-}
-
-TEST(Synonyms, TheCheckOfAnAnswerDoesNotDisturbTheWalk) {
-    PanelsBench bench;
-    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
-    for (const char16_t* word : {u"Heim", u"Bau", u"Hof"})
-        bench.addSynonym(a, 1, QString::fromUtf16(word));
-    bench.addSynonym(a, 2, u"home"_s);
-    bench.listEntries();
-    bench.showEntry(1);
-    bench.press("UpDown1_Up");
-    EXPECT_TRUE(bench.trainer.IsSynonym(u"home"_s));
-    EXPECT_FALSE(bench.trainer.IsSynonym(u"nothing"_s));
-    bench.press("UpDown1_Up");
-    EXPECT_EQ(bench.question(), u"Bau");
-}
-
-TEST(Synonyms, ArrowsAreThereOnceAnEntryIs) {
-    PanelsBench bench;
-    bench.addEntry(u"Haus"_s, u"house"_s);
-    bench.listEntries();
-    EXPECT_FALSE(bench.shown("UpDown1"));
-    EXPECT_FALSE(bench.shown("UpDown2"));
-    bench.step();
-    EXPECT_TRUE(bench.shown("UpDown1"));
-    EXPECT_TRUE(bench.shown("UpDown2"));
-    bench.trainer.Command6_Click();
-    EXPECT_FALSE(bench.shown("UpDown1"));
-}
-
-TEST(Synonyms, TheKeyboardSuffices) {
-    PanelsBench bench;
-    const QString a = bench.addEntry(u"Haus"_s, u"house"_s);
-    bench.addSynonym(a, 1, u"Heim"_s);
-    bench.listEntries();
-    bench.trainer.show();
-    bench.showEntry(1);
-    auto& up = child<QToolButton>(bench.trainer, "UpDown1_Up");
-    QTest::keyClick(&up, Qt::Key_Up);
-    EXPECT_EQ(bench.question(), u"Heim");
-    QTest::keyClick(&up, Qt::Key_Down);
-    EXPECT_EQ(bench.question(), u"Haus");
-    QTest::keyClick(&up, Qt::Key_Space);
-    EXPECT_EQ(bench.question(), u"Heim");
 }
