@@ -10,7 +10,6 @@
 #include <array>
 #include <functional>
 #include <optional>
-#include <vector>
 
 class QAction;
 class QLabel;
@@ -208,9 +207,10 @@ private:
     void showSynonymButtons(bool visible);
 
     // Search.
-    struct Match;
-    [[nodiscard]] std::vector<Match> findMeanings();
-    void showMeanings(const std::vector<Match>& matches);
+    struct Meanings;
+    void findMeanings(Meanings& meanings);
+    void CompareAndSetInGrid(Meanings& meanings);
+    void showMeanings(Meanings& meanings);
 
     // Panels.
     void showDetails(int row);

@@ -14,6 +14,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -50,27 +51,59 @@ std::array<QString, 4> partFields(const LanguageFields& names, int language) {
     return {names.Lang2PrefixField, names.Lang2MainField, names.Lang2SuffixField, names.Lang2KommentarField};
 }
 
+/// The best value first; equal ones stay in the order of the table.
+void sortByValue(FlexGrid& grid) {
+    struct Match {
+        int value;
+        QString target;
+        QString other;
+    };
+    std::vector<Match> matches;
+    for (int row = 1; row < grid.Rows(); ++row)
+        matches.push_back(
+            {grid.TextMatrix(row, 2).toInt(), grid.TextMatrix(row, 0), grid.TextMatrix(row, 1)});
+    std::stable_sort(matches.begin(), matches.end(),
+                     [](const Match& left, const Match& right) { return left.value > right.value; });
+    int row = 0;
+    for (const Match& match : matches) {
+        ++row;
+        grid.setTextMatrix(row, 0, match.target);
+        grid.setTextMatrix(row, 1, match.other);
+        grid.setTextMatrix(row, 2, QString::number(match.value));
+    }
+}
+
 } // namespace
 
-/// An entry that the text fits, and how well.
-struct Trainer::Match {
-    int value = 0;
-    QString target; ///< its expression in the language that was asked for
-    QString other;
+/// The window to show, and what its rows are read with.
+struct Trainer::Meanings {
+    Bedeutung form;
+    PartReader target; ///< the expression in the language that was asked for
+    PartReader other;
+    qint16 count = 0; ///< matches in the grid
 };
 
 void Trainer::Suche_Click() {
-    attempt([this] { showMeanings(findMeanings()); });
+    attempt([this] {
+        const SharedState& state = m_context.state;
+        const dao::Recordset& entries = m_context.state.DBHandler.RecordsetVokabular;
+        const int language = targetLanguage();
+        Meanings meanings{
+            .form{m_grid->TextMatrix(OtherLanguageRow, 0), m_grid->TextMatrix(TopLanguageRow, 0), this},
+            .target{entries, partFields(state, language)},
+            .other{entries, partFields(state, 3 - language)}};
+        findMeanings(meanings);
+        showMeanings(meanings);
+    });
 }
 
-std::vector<Trainer::Match> Trainer::findMeanings() {
-    const SharedState& state = m_context.state;
+void Trainer::findMeanings(Meanings& meanings) {
     dao::Recordset& entries = m_context.state.DBHandler.RecordsetVokabular;
     Progress& progress = m_context.progress;
     const auto hideProgress = qScopeGuard([&progress] { progress.hide(); });
     const QString everyEntry = u"ID LIKE '*'"_s;
     // A look-up a row: without this each of them would lock the file for itself.
-    const dao::SteadyReading reading(state.DBHandler.Database);
+    const dao::SteadyReading reading(m_context.state.DBHandler.Database);
     entries.FindFirst(everyEntry);
     const int count = entries.RecordCount();
     if (count >= 1) {
@@ -81,43 +114,36 @@ std::vector<Trainer::Match> Trainer::findMeanings() {
         progress.setValue(0);
         progress.showNow();
     }
-
-    const int language = targetLanguage();
-    const PartReader target(entries, partFields(state, language));
-    const PartReader other(entries, partFields(state, 3 - language));
-    std::vector<Match> matches;
     for (; isFound(entries); entries.FindNext(everyEntry)) {
         progress.setValue(entries.AbsolutePosition());
-        const ExpressionParts parts = target.parts();
-        const int value = matchValue(LetzteEingabe, parts, state.Exceptions);
-        if (value > 0)
-            matches.push_back(
-                {value, extract(generiereAusdruck(parts)), extract(generiereAusdruck(other.parts()))});
+        CompareAndSetInGrid(meanings);
     }
-    std::stable_sort(matches.begin(), matches.end(),
-                     [](const Match& left, const Match& right) { return left.value > right.value; });
-    return matches;
 }
 
-void Trainer::showMeanings(const std::vector<Match>& matches) {
-    if (matches.empty() || matches.front().target.isEmpty()) {
+void Trainer::CompareAndSetInGrid(Meanings& meanings) {
+    const ExpressionParts parts = meanings.target.parts();
+    const int value = matchValue(LetzteEingabe, parts, m_context.state.Exceptions);
+    if (value == 0)
+        return;
+    meanings.count = dao::toInteger16(meanings.count + 1);
+    meanings.form.ExtendRow(meanings.count);
+    FlexGrid& grid = meanings.form.MSFlexGrid1();
+    grid.setTextMatrix(meanings.count, 0, extract(generiereAusdruck(parts)));
+    grid.setTextMatrix(meanings.count, 1, extract(generiereAusdruck(meanings.other.parts())));
+    grid.setTextMatrix(meanings.count, 2, QString::number(value));
+}
+
+void Trainer::showMeanings(Meanings& meanings) {
+    FlexGrid& grid = meanings.form.MSFlexGrid1();
+    sortByValue(grid);
+    if (meanings.count == 0 || grid.TextMatrix(1, 0).isEmpty()) {
         Message none;
         none.text = uiText(u"Zu dem eingegebenen Ausdruck konnte kein Eintrag gefunden werden."_s,
                            u"No entry found for expression."_s);
         m_context.prompts.message(this, none);
         return;
     }
-    Bedeutung meanings(m_grid->TextMatrix(OtherLanguageRow, 0), m_grid->TextMatrix(TopLanguageRow, 0), this);
-    FlexGrid& grid = meanings.MSFlexGrid1();
-    qint16 row = 0;
-    for (const Match& match : matches) {
-        row = dao::toInteger16(row + 1);
-        meanings.ExtendRow(row);
-        grid.setTextMatrix(row, 0, match.target);
-        grid.setTextMatrix(row, 1, match.other);
-        grid.setTextMatrix(row, 2, QString::number(match.value));
-    }
-    m_context.prompts.exec(meanings);
+    m_context.prompts.exec(meanings.form);
 }
 
 } // namespace lingomat

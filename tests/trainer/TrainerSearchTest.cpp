@@ -119,3 +119,64 @@ TEST(Search, AClosedFileIsReported) {
     bench.button("Suche").click();
     EXPECT_FALSE(bench.context.progress.isVisible());
 }
+
+TEST(Search, ShowsItsProgress) {
+    for (const auto& [language, title] : {std::pair{u"En"_s, u"Searching in database"_s},
+                                          std::pair{u"De"_s, u"Datenbank wird durchsucht"_s}}) {
+        SearchBench bench(language);
+        for (const char16_t* word : {u"house", u"tree", u"dog"})
+            bench.addEntry(QString::fromUtf16(word).toUpper(), QString::fromUtf16(word));
+        bench.listEntries();
+        bench.beginTyping();
+        bench.type(u"tre"_s);
+        bench.willShow({{u"tree"_s, u"TREE"_s, u"80"_s}});
+        bench.search();
+        EXPECT_EQ(bench.context.progress.windowTitle(), title);
+        EXPECT_EQ(bench.context.progress.minimum(), 0);
+        EXPECT_EQ(bench.context.progress.maximum(), 3);
+        EXPECT_FALSE(bench.context.progress.isVisible());
+    }
+}
+
+TEST(Search, TakesEqualCharactersIntoAccountAndTheWholeExpressionAlways) {
+    SearchBench bench;
+    const SharedState& state = bench.context.state;
+    bench.addEntry(u"Frage"_s, u"question"_s);
+    bench.addEntry({{state.Lang1MainField, u"gehen"_s},
+                    {state.Lang2PrefixField, u"to"_s},
+                    {state.Lang2MainField, u"gö"_s}});
+    bench.context.state.Exceptions.readExceptions(
+        [](int number) { return number == 1 ? u"oö"_s : QString(); });
+    bench.listEntries();
+    bench.beginTyping();
+    bench.trainer.MainOnly = true; // has no say here
+    bench.type(u"to go"_s);
+    bench.willShow({{u"to gö"_s, u"gehen"_s, u"100"_s}});
+    bench.search();
+}
+
+TEST(Search, AnEmptyExpressionInTheFirstPlaceCountsAsNoMatch) {
+    SearchBench bench;
+    bench.addEntry(u"Baum"_s, u"tree"_s);
+    bench.addEntry(u"Haus"_s, QString());
+    bench.listEntries();
+    bench.beginTyping();
+    bench.type(QString());
+    bench.context.prompts.expect({.text = u"No entry found for expression."});
+    bench.search();
+}
+
+TEST(Search, EquallyGoodMatchesStayInTheOrderOfTheTable) {
+    SearchBench bench;
+    for (const char16_t* word : {u"hut 3", u"hut", u"hut 1", u"HUT", u"hut 2"})
+        bench.addEntry(QString::fromUtf16(word).toUpper(), QString::fromUtf16(word));
+    bench.listEntries();
+    bench.beginTyping();
+    bench.type(u"hut"_s);
+    bench.willShow({{u"hut"_s, u"HUT"_s, u"100"_s},
+                    {u"HUT"_s, u"HUT"_s, u"95"_s},
+                    {u"hut 3"_s, u"HUT 3"_s, u"80"_s},
+                    {u"hut 1"_s, u"HUT 1"_s, u"80"_s},
+                    {u"hut 2"_s, u"HUT 2"_s, u"80"_s}});
+    bench.search();
+}
