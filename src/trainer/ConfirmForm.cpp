@@ -7,13 +7,20 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
 
 namespace {
 
-constexpr int LongestLine = 60; ///< of an expression, in characters, before it wraps
+// In characters.
+constexpr int LongestLine = 60;         ///< of an expression, before it wraps
+constexpr qsizetype LongestWord = 30;   ///< that is not broken
+constexpr qsizetype LongestShown = 500; ///< of an expression, so that the form stays on the screen
+
+constexpr QChar ZeroWidthSpace(0x200b);
 
 constexpr FormText texts[] = {
     {"ConfirmForm", u"Bestätigen", u"Confirm"},
@@ -24,6 +31,28 @@ constexpr FormText texts[] = {
     {"Ja", u"Ja", u"Yes"},
     {"Nein", u"Nein", u"No"},
 };
+
+/// A label wraps between words only, and one long word would make the form as wide as itself. Such words get
+/// places at which they may be broken.
+QString wrappable(const QString& text) {
+    QString shown = text.left(LongestShown);
+    if (shown.size() < text.size()) {
+        if (shown.back().isHighSurrogate()) // half a character
+            shown.chop(1);
+        shown += u'…';
+    }
+    QString result;
+    qsizetype wordLength = 0;
+    for (const QChar character : std::as_const(shown)) {
+        wordLength = character.isSpace() ? 0 : wordLength + 1;
+        if (wordLength > LongestWord && !character.isLowSurrogate()) {
+            result += ZeroWidthSpace;
+            wordLength = 1;
+        }
+        result += character;
+    }
+    return result;
+}
 
 } // namespace
 
@@ -78,13 +107,14 @@ QPushButton* ConfirmForm::newAnswer(const QString& name, const QString& answer) 
 }
 
 void ConfirmForm::setExpressions(const QString& typed, const QString& stored) {
-    m_typed->setText(typed);
-    m_stored->setText(stored);
+    m_typed->setText(wrappable(typed));
+    m_stored->setText(wrappable(stored));
     m_typed->setAccessibleName(typed);
     m_stored->setAccessibleName(stored);
 }
 
 void ConfirmForm::showEvent(QShowEvent* event) {
+    adjustSize(); // the last expressions may have been longer
     QDialog::showEvent(event);
     Ergebnis = u"Ja"_s;
     m_yes->setDefault(true);

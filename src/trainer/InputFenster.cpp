@@ -7,6 +7,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -114,6 +115,13 @@ void InputFenster::placeOver(const QRect& solutionLine, const QFont& font) {
 
 void InputFenster::setMainOnly(bool mainOnly) {
     m_mainOnly->setChecked(mainOnly);
+}
+
+bool InputFenster::event(QEvent* event) {
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::WindowActivate) // also when the user comes back from the pad
+        m_text->setFocus();
+    return isHandled;
 }
 
 void InputFenster::showEvent(QShowEvent* event) {

@@ -33,6 +33,7 @@ Q_SIGNALS:
     void specialCharactersRequested();   ///< the pad of special characters is wanted
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:

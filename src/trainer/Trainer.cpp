@@ -18,6 +18,7 @@ constexpr int ReturnLeft = 45;
 Trainer::Trainer(FormContext& context, Liste& liste, QWidget* parent)
     : QMainWindow(parent), m_context(context), m_liste(liste) {
     setObjectName(QStringLiteral("Trainer"));
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's own would offer to take the toolbar away
     buildWidgets();
     buildVokabelnGrid();
     buildMenus();

@@ -1,11 +1,15 @@
+#include "FlexGridModel.h"
 #include "TrainingBench.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +55,22 @@ constexpr NamedText ButtonTips[] = {
     {"Command3", u"Step - Geht 1 Schritt weiter", u"Proceeds to next step"},
 };
 
+constexpr NamedText LabelTexts[] = {
+    {"Label1", u"Wortart", u"Part of Speech"},
+    {"Label12", u"Grammatikalische Attribute", u"Grammar Attributes"},
+    {"Label13", u"Funktionale Attribute", u"Functional Attributes"},
+    {"Label14", u"Bereiche", u"Areas"},
+    {"Label3", u"Quelle", u"Source"},
+    {"Label11", u"Quelle", u"Source"},
+    {"Label5", u"Zusatzinfo", u"Additional Info"},
+    {"Label6", u"Beispielsatz", u"Sample Phrase"},
+    {"Label8", u"Eingabedatum", u"Creationdate"},
+    {"Label9", u"Änderungsdatum", u"Changedate"},
+    {"Label10", u"Score", u"Score"},
+    {"labNoReferences", u"<keine Referenzen>", u"<no References>"},
+    {"Richtig", u"OK", u"OK"},
+};
+
 QString textOf(const NamedText& text, const QString& language) {
     return QString::fromUtf16(language == u"En" ? text.english : text.german);
 }
@@ -66,6 +86,17 @@ TEST(Form, TextsInBothLanguages) {
             EXPECT_EQ(child<QMenu>(bench.trainer, text.name).title(), textOf(text, language)) << text.name;
         for (const NamedText& text : ButtonTips)
             EXPECT_EQ(bench.button(text.name).toolTip(), textOf(text, language)) << text.name;
+        for (const NamedText& text : LabelTexts)
+            EXPECT_EQ(child<QLabel>(bench.trainer, text.name).text(), textOf(text, language)) << text.name;
+        const bool english = language == u"En";
+        EXPECT_EQ(bench.button("Suche").text(), english ? u"Find" : u"Suche");
+        for (const char* name : {"UpDown1", "UpDown2"})
+            EXPECT_EQ(child<QWidget>(bench.trainer, name).toolTip(),
+                      english ? u"Displays synonym if any" : u"Synonyme anzeigen, falls vorhanden");
+        const auto& tabs = child<QTabBar>(bench.trainer, "TabStrip1");
+        const QStringList captions{tabs.tabText(0), tabs.tabText(1), tabs.tabText(2)};
+        EXPECT_EQ(captions, english ? (QStringList{u"Attributes1"_s, u"Attributes2"_s, u"References"_s})
+                                    : (QStringList{u"Attribute1"_s, u"Attribute2"_s, u"Referenzen"_s}));
     }
     TrainingBench english(3);
     EXPECT_EQ(english.trainer.windowTitle(), u"Trainer");
@@ -78,6 +109,7 @@ TEST(Form, TextsInBothLanguages) {
     EXPECT_EQ(german.trainer.windowTitle(), u"Vokabeltrainer");
     EXPECT_EQ(german.button("Command6").text(), u"Neustart");
     EXPECT_EQ(german.button("Command4").text(), u"Schließen");
+    EXPECT_EQ(german.grid.toolTip(), u"Zeilenhöhe mit der Maus ändern");
     EXPECT_EQ(german.panel(1), u"Anzahl Vokabeln");
     EXPECT_EQ(german.panel(3), u"Vokabel Nr.");
 }
@@ -178,6 +210,40 @@ TEST(Form, TheKeyboardAloneSuffices) {
     bench.button("Command4").setFocus();
     press(Qt::Key_Return);
     EXPECT_FALSE(bench.trainer.isVisible());
+}
+
+TEST(Form, LanguagesAndExpressionsAreSetInTheirOwnWays) {
+    TrainingBench bench(1);
+    bench.step();
+    bench.step();
+    bench.grid.flush();
+    for (const int row : {0, 1, 2, 3}) {
+        const bool isLanguage = row % 2 == 0;
+        bench.grid.setRow(row);
+        bench.grid.setCol(0);
+        const QFont font = bench.grid.CellFont();
+        EXPECT_EQ(font.family(), u"Arial");
+        EXPECT_EQ(font.italic(), isLanguage) << row;
+        EXPECT_EQ(font.bold(), !isLanguage) << row;
+        const QModelIndex cell = bench.grid.model()->index(row, 0);
+        const auto alignment = cell.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+        EXPECT_TRUE(alignment.testFlag(isLanguage ? Qt::AlignLeft : Qt::AlignHCenter)) << row;
+        EXPECT_EQ(cell.data(FlexGridModel::BackgroundPaletteRole).toInt(),
+                  isLanguage ? QPalette::Button : QPalette::Base);
+    }
+}
+
+TEST(Form, NothingOffersToTakeTheToolbarAway) {
+    TrainingBench bench(1);
+    bench.trainer.show();
+    const QList<QWidget*> places{bench.trainer.menuBar(), &child<QWidget>(bench.trainer, "Toolbar1"),
+                                 &bench.option(1), bench.trainer.statusBar()};
+    for (QWidget* const place : places) {
+        const QPoint middle = place->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, middle, place->mapToGlobal(middle));
+        QApplication::sendEvent(place, &event);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << place->objectName().toStdString();
+    }
 }
 
 TEST(Form, QuestionAndSolutionShareTheRoom) {
