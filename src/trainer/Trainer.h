@@ -221,7 +221,7 @@ private:
     void checkPanel(int tab);
 
     // Options.
-    void pressOption(TrainerToolbar::Button button, bool pressed);
+    void Toolbar1_ButtonClick(TrainerToolbar::Button button, bool pressed);
     void chooseOrder(bool Trainer::*order);
     void chooseLanguage(bool Trainer::*language);
     void chooseSelfTest(bool on);

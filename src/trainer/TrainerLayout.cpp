@@ -180,7 +180,7 @@ void Trainer::connectEvents() {
     connectCommand(m_first, &Trainer::back_Click);
     connectCommand(m_last, &Trainer::ToEnd_Click);
 
-    connect(m_toolbar, &TrainerToolbar::buttonPressed, this, &Trainer::pressOption);
+    connect(m_toolbar, &TrainerToolbar::buttonPressed, this, &Trainer::Toolbar1_ButtonClick);
     connect(m_search, &QPushButton::clicked, this, &Trainer::Suche_Click);
     connect(m_searchEntry, &QAction::triggered, this, &Trainer::Suche_Click);
     connectSynonyms(*m_questionSynonyms, QuestionRow);

@@ -64,7 +64,7 @@ void Trainer::OptionsToUI() {
     m_grid->setTextMatrix(OtherLanguageRow, 0, Lang1Zuerst ? state.Lang2Name : state.Lang1Name);
 }
 
-void Trainer::pressOption(TrainerToolbar::Button button, bool pressed) {
+void Trainer::Toolbar1_ButtonClick(TrainerToolbar::Button button, bool pressed) {
     switch (button) {
     case TrainerToolbar::Sequential: chooseOrder(&Trainer::Reihenfolge_sequentiell); break;
     case TrainerToolbar::Shuffle: chooseOrder(&Trainer::Reihenfolge_shuffle); break;
