@@ -173,6 +173,8 @@ void Dynaset::loadSingle() {
 }
 
 Value Dynaset::value(int column) {
+    if (hasKeyToCome(column))
+        setValue(column, reserveKey());
     if (m_work != Work::None)
         return m_values[static_cast<std::size_t>(column)];
     load();

@@ -58,6 +58,8 @@ private:
     void readRun(const QByteArray& sql, qint64 lowest, qint64 highest, int limit);
     void load();
     void loadSingle();
+    [[nodiscard]] bool hasKeyToCome(int column) const;
+    [[nodiscard]] qint64 reserveKey();
     void insertRow();
     void updateRow();
     void rowWritten(qint64 key);

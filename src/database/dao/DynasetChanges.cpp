@@ -111,6 +111,44 @@ void Dynaset::update() {
     m_work = Work::None;
 }
 
+bool Dynaset::hasKeyToCome(int column) const {
+    return m_work == Work::Adding && field(column).isAutoIncrement() &&
+           m_values[static_cast<std::size_t>(column)].isNull();
+}
+
+/// The next key, which no row will get from now on but the one in work, also not that of another program.
+/// Rows may be linked to it before it is written, and stay linked to nothing else if it never is.
+qint64 Dynaset::reserveKey() {
+    const QString& name = table().definition.Name;
+    Transaction transaction(connection());
+    qint64 key = 0;
+    {
+        const StatementRun run(connection().statement(
+            "SELECT max(coalesce((SELECT max(CAST(seq AS INTEGER)) FROM sqlite_sequence WHERE name = ?1), 0),"
+            " coalesce((SELECT max(" +
+            table().keyColumn + ") FROM " + table().sqlName + "), 0))"));
+        run->bind(1, name);
+        if (run->step())
+            key = run->integer(0);
+    }
+    requireRange<qint32>(key);
+    requireRange<qint32>(++key);
+    {
+        const StatementRun run(connection().statement("DELETE FROM sqlite_sequence WHERE name = ?1"));
+        run->bind(1, name);
+        run->step();
+    }
+    {
+        const StatementRun run(
+            connection().statement("INSERT INTO sqlite_sequence(name, seq) VALUES(?1, ?2)"));
+        run->bind(1, name);
+        run->bind(2, key);
+        run->step();
+    }
+    transaction.commit();
+    return key;
+}
+
 void Dynaset::insertRow() {
     QByteArray names;
     QByteArray parameters;

@@ -56,7 +56,7 @@ public:
     [[nodiscard]] Value field(int position) const;
     [[nodiscard]] Value field(const QString& name) const;
 
-    void AddNew(); ///< starts a new row with the fields' defaults
+    void AddNew(); ///< starts a new row with the defaults; its number is taken once it is read
     void Edit();   ///< starts a change of the current row
     /// Sets a field of the row in work. Errors: 3020 without AddNew or Edit, 3163 too long, 3315 empty text
     /// not allowed, 3421 wrong type, 6 number out of range, 3027 read-only.
