@@ -6,7 +6,6 @@
 
 #include <QEvent>
 #include <QMenu>
-#include <QPushButton>
 
 namespace lingomat {
 
@@ -19,7 +18,7 @@ Liste::Liste(FormContext& context, QWidget* parent) : QMainWindow(parent), m_con
 Liste::~Liste() = default;
 
 void Liste::connectEvents() {
-    connect(m_command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+    connectCommands();
     connect(m_grid, &FlexGrid::mouseMoved, this, &Liste::SetColResize);
     connect(m_grid, &FlexGrid::headerClicked, this, &Liste::headerClick);
     // The mark goes where the user goes: a key enters another cell, a click may fall on the current one.
@@ -63,11 +62,6 @@ void Liste::Form_Activate() {
     ConditionToUI();
 }
 
-void Liste::ConditionToUI() {
-    m_wordSort->setEnabled(m_context.state.SelectionValid);
-    SetzeStatus();
-}
-
 void Liste::SetzeStatus() {
     const int rows = m_grid->Rows();
     setWindowTitle(listTitle(rows, rows < 2 ? 0 : m_grid->RowHeight(1)));
@@ -80,10 +74,6 @@ int Liste::countRows() const {
 
 qint16 Liste::Fgi(int row, int column) const {
     return dao::toInteger16(qint64{column} + qint64{m_grid->Cols()} * row);
-}
-
-void Liste::Command1_Click() {
-    hide();
 }
 
 bool Liste::event(QEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FormContext.h"
+#include "KeyRecord.h"
 #include "ListColumns.h"
 #include "RowMark.h"
 
@@ -9,9 +10,13 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QAction;
+class QLabel;
+class QLayout;
 class QMenu;
+class QProgressBar;
 class QPushButton;
 
 namespace dao {
@@ -41,11 +46,15 @@ public:
     explicit Liste(FormContext& context, QWidget* parent = nullptr);
     ~Liste() override;
 
-    // What waits to be written to the database.
+    // What waits to be written to the database. Who drops it calls
+    // forgetChanges() or sets the three numbers to 0.
     qint16 AnzahlGeaendert = 0; ///< changed entries
     qint16 AnzahlGeloescht = 0; ///< deleted entries
     qint16 AnzahlNeu = 0;       ///< rows with "*"
-    qint16 MarkierteZeile = 0;  ///< row that carries the mark; 0: none
+    [[nodiscard]] int pendingChanges() const { return AnzahlGeaendert + AnzahlGeloescht + AnzahlNeu; }
+    void forgetChanges();
+
+    qint16 MarkierteZeile = 0; ///< row that carries the mark; 0: none
 
     [[nodiscard]] FlexGrid& MSFlexGrid1() { return *m_grid; }
     [[nodiscard]] const FlexGrid& MSFlexGrid1() const { return *m_grid; }
@@ -78,7 +87,7 @@ public:
     void ResetMarke(); ///< takes the mark away; the current row is 0 then
 
     // Rows.
-    void LoescheListe();       ///< empties the list down to the placeholder
+    void LoescheListe();       ///< empties the list down to the placeholder; nothing waits to be written then
     void initialisiereListe(); ///< empties the list down to the header, before a selection is loaded
     /// Writes one expression of the current record of RecordsetAuswahl, composed and in its four parts, into
     /// the current row. Language 1, any other number is language 2. Error 94 for a missing part.
@@ -109,8 +118,35 @@ public:
     void SortByMain();
     void SortBySuffix();
 
+    // The record of changes.
+    /// Records the entry of the current row as changed. A new row is written whole anyway; an entry that is
+    /// no longer in the database is told to the user and not recorded.
+    void ZeileGeaendert();
+    /// Records the rows that were selected together, but for the one where the edit began.
+    void SetzeSelectedZeilenGeaendert();
+    /// ID of a grid row, whose record is the current one of RecordsetVokabular then; -1 where the database
+    /// has none. Error 6 for an ID above 32767.
+    [[nodiscard]] qint16 RowPos_To_RecPos(int row);
+    /// Whether the open editor of the current column holds another text than its cell.
+    [[nodiscard]] bool CheckIfEntryChanged() const;
+    void CheckIndices(); ///< takes deleted entries out of the changed ones
+
+    // Commands.
+    void Command1_Click();   ///< "Close": nothing is saved or lost
+    void Command2_Click();   ///< "Apply": deletions, changes, new rows, in this order
+    void Command3_Click();   ///< "New Row"
+    void Command4_Click();   ///< "Delete"
+    void Command5_Click();   ///< "OK"
+    void Command6_Click();   ///< "Zeichen..."
+    void Referenzen_Click(); ///< "Referenzen..."
+    void mnSuchen_Click();   ///< "Find in List..."
+
 Q_SIGNALS:
     void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
+    void stateChanged();          ///< the state shared by all forms is another
+    void rowsChanged();           ///< rows have come or gone: a training session has to start anew
+    void referencesRequested();   ///< of the entry in the current row
+    void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
 
 protected:
     bool event(QEvent* event) override;
@@ -120,7 +156,6 @@ private:
     void buildWidgets();
     void buildMenus();
     void connectEvents();
-    void Command1_Click(); ///< "Close"
 
     // Sorting (ListeSort.cpp).
     void buildSortMenu();
@@ -130,6 +165,24 @@ private:
     void sortBy(int column);
     void headerClick(int column);
     void popUpAtHeader(QMenu& menu);
+
+    // Commands.
+    enum class Saving { Done, CleanUpFailed, Stopped };
+    [[nodiscard]] QLayout* buildCommands(QWidget& body);
+    void fillFileMenu(QMenu& menu);
+    void fillViewMenu(QMenu& menu);
+    void connectCommands();
+    void addRow();
+    void deleteRow();
+    void clearOnlyRow();
+    [[nodiscard]] bool mayShowReferences();
+    void saveChanges();
+    [[nodiscard]] Saving saveRows();
+    void showSaveProgress();
+    void setSaveProgress(int value);
+    void hideSaveProgress();
+    void updateSelectionValid();
+    void enableSaving(bool enabled);
 
     void mnAnsicht_Click(ListColumn column);
     void setFirstWidths();
@@ -144,8 +197,6 @@ private:
 
     FormContext& m_context;
     FlexGrid* m_grid = nullptr;
-    QPushButton* m_command1 = nullptr;
-    QMenu* m_columnMenu = nullptr;
 
     // Sorting.
     QMenu* m_wordSort = nullptr;
@@ -153,6 +204,29 @@ private:
     QMenu* m_mnDeutsch = nullptr;  ///< of the second language
     bool SortKlick = false;        ///< the click was one on a header and opens no editor
     bool m_sorted = false;         ///< and no row was marked since
+
+    // Commands.
+    QPushButton* m_command1 = nullptr;
+    QPushButton* m_command2 = nullptr;
+    QPushButton* m_command3 = nullptr;
+    QPushButton* m_command4 = nullptr;
+    QPushButton* m_command5 = nullptr;
+    QPushButton* m_command6 = nullptr;
+    QPushButton* m_referenzen = nullptr;
+    QAction* m_mnNeueZeile = nullptr;
+    QAction* m_mnZeileLoeschen = nullptr;
+    QAction* m_mnSpeichern = nullptr;
+    QAction* m_mnSuchen = nullptr;
+    QAction* m_mnSchliessen = nullptr;
+    QAction* m_mnReferenzen = nullptr;
+    QAction* m_mnSonderzeichen = nullptr;
+    QLabel* m_lblProgress = nullptr;
+    QProgressBar* m_progressBar = nullptr;
+
+    // The record of changes.
+    KeyRecord GeaenderteZeilen{AnzahlGeaendert};
+    KeyRecord GeloeschteZeilen{AnzahlGeloescht};
+    std::vector<qint16> NeueZeilen; ///< never read: new rows are found by their "*"
 
     std::array<QAction*, ListColumnCount> m_columnEntries{};
     std::array<qint16, KeptWidths> SpaltenBreiten{};

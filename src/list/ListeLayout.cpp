@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QLayout>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -21,7 +20,22 @@ constexpr FormText texts[] = {
     {"Command1", u"Schließen", u"Close",
      u"Schließt das Fenster, Änderungen können zu einem späteren Zeitpunkt übernommen werden.",
      u"Closes this window, changes can be saved later"},
+    {"Command2", u"Übernehmen", u"Apply", u"Übernimmt alle Änderungen", u"Saves all changes"},
+    {"Command3", u"Neue Zeile", u"New Row", u"Fügt eine neue Zeile ein", u"Adds a new row"},
+    {"Command4", u"Löschen", u"Delete", u"Löscht die aktuelle Zeile", u"Deletes the current row"},
+    {"Command5", u"OK", u"OK", u"Übernimmt alle Änderungen und schließt das Fenster",
+     u"Saves all changes and closes this window"},
+    // These two exist in German only.
+    {"Command6", u"Zeichen...", u"Zeichen...", u"Öffnet die Fonthilfe", u"Öffnet die Fonthilfe"},
+    {"Referenzen", u"Referenzen...", u"Referenzen...", u"Zeigt alle Referenzen für die aktuelle Vokabel an",
+     u"Zeigt alle Referenzen für die aktuelle Vokabel an"},
+    {"Label1", u"Hilfe: F1", u"Help: F1"},
+    {"ProgressBar1", u"Fortschritt", u"Progress"},
     {"mnFile", u"Datei", u"File"},
+    {"mnNeueZeile", u"Neue Zeile", u"New Row"},
+    {"mnZeileLöschen", u"Zeile löschen", u"Delete Row"},
+    {"mnSpeichern", u"Speichern", u"Save"},
+    {"mnSuchen", u"Suchen in Liste", u"Find in List..."},
     {"mnSchließen", u"Schließen", u"Close"},
     {"WordSort", u"Sortieren", u"Sort"},
     {"WordSortByAll", u"Sortieren nach gesamtem Ausdruck", u"Sort by entire Expression"},
@@ -41,6 +55,8 @@ constexpr FormText texts[] = {
     {"mnScore", u"nach Fehlerscore", u"by Error Score"},
     {"mnAnsicht", u"Ansicht", u"View"},
     {"mnSpalten", u"Spalten", u"Columns"},
+    {"mnReferenzen", u"Referenzen...", u"References..."},
+    {"mnSonderzeichen", u"Sonderzeichen", u"Special Characters..."},
 };
 
 QMenu* addMenu(QWidget& bar, const QString& name) {
@@ -66,19 +82,10 @@ void Liste::buildWidgets() {
     m_grid->setFixedRows(1);
     m_grid->setFixedCols(1);
 
-    m_command1 = new QPushButton(body);
-    m_command1->setObjectName(u"Command1"_s);
-    m_command1->setAutoDefault(true);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(m_command1);
-
     auto* column = new QVBoxLayout(body);
     column->addWidget(m_grid, 1);
-    column->addLayout(buttons);
+    column->addLayout(buildCommands(*body));
 
-    setTabOrder(m_grid, m_command1);
     resize(StartSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }
 
@@ -86,11 +93,7 @@ void Liste::buildMenus() {
     menuBar()->setObjectName(u"menuBar"_s);
 
     QMenu* file = addMenu(*menuBar(), u"mnFile"_s);
-    auto* close = new QAction(this);
-    close->setObjectName(u"mnSchließen"_s);
-    close->setShortcut(QKeySequence::Close);
-    file->addAction(close);
-    connect(close, &QAction::triggered, this, [this] { Command1_Click(); });
+    fillFileMenu(*file);
 
     buildSortMenu();
 
@@ -106,6 +109,7 @@ void Liste::buildMenus() {
         connect(entry, &QAction::triggered, this, [this, column = *rule.option] { mnAnsicht_Click(column); });
         m_columnEntries[static_cast<size_t>(*rule.option)] = entry;
     }
+    fillViewMenu(*view);
 }
 
 void Liste::SetUserInterfaceProperties() {

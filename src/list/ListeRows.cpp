@@ -35,6 +35,7 @@ void Liste::LoescheListe() {
         m_grid->setRows(std::min(m_grid->Rows(), 2));
         if (m_grid->Rows() == 2)
             m_grid->setRowHeight(1, 0);
+        forgetChanges(); // the rows are gone, and the next database has other entries of these keys
         ConditionToUI();
     });
 }

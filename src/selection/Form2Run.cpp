@@ -69,7 +69,7 @@ void Form2::runSelection() {
 }
 
 bool Form2::mayDropUnsavedRows() {
-    if (m_liste.AnzahlGeaendert + m_liste.AnzahlGeloescht + m_liste.AnzahlNeu < 1)
+    if (m_liste.pendingChanges() < 1)
         return true;
     const bool proceed = m_context.prompts.yesNo(
         this, uiText(u"Es wurden noch nicht alle Änderungen gesichert! Wirklich fortsetzen?"_s,
@@ -81,9 +81,7 @@ bool Form2::mayDropUnsavedRows() {
         m_liste.activateWindow();
         return false;
     }
-    m_liste.AnzahlGeaendert = 0;
-    m_liste.AnzahlGeloescht = 0;
-    m_liste.AnzahlNeu = 0;
+    m_liste.forgetChanges();
     return true;
 }
 

@@ -33,6 +33,10 @@ void Application::connectForms() {
 
     // Working.
     QObject::connect(&m_form2, &Form2::selectionMade, &m_form1, &Form1::GreyOut);
+    QObject::connect(&m_liste, &Liste::stateChanged, &m_form1, [this] { m_form1.ConditionToUI(false); });
+    QObject::connect(&m_liste, &Liste::rowsChanged, &m_trainer, &Trainer::Command6_Click);
+    QObject::connect(&m_liste, &Liste::referencesRequested, &m_liste, [this] { showReferences(); });
+    QObject::connect(&m_liste, &Liste::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_trainer, &Trainer::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_form2, &Form2::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
 

@@ -104,26 +104,14 @@ void Form1::Command4_Click() {
     trapped(m_context.prompts, [this] { endProgram(); });
 }
 
-int Form1::pendingChanges() const {
-    const Liste& liste = m_forms.liste;
-    return liste.AnzahlNeu + liste.AnzahlGeaendert + liste.AnzahlGeloescht;
-}
-
-void Form1::dropPendingChanges() {
-    Liste& liste = m_forms.liste;
-    liste.AnzahlNeu = 0;
-    liste.AnzahlGeaendert = 0;
-    liste.AnzahlGeloescht = 0;
-}
-
 void Form1::endProgram() {
     SharedState& state = m_context.state;
-    if (pendingChanges() > 0) {
+    if (m_forms.liste.pendingChanges() > 0) {
         if (ShowMessage(quitQuestion()) != QMessageBox::Yes) {
             showListe();
             return;
         }
-        dropPendingChanges();
+        m_forms.liste.forgetChanges();
     }
 
     if (state.databaseIsOpen()) {

@@ -150,8 +150,6 @@ private:
     void openForm(QWidget& form);
     void showListe();
 
-    [[nodiscard]] int pendingChanges() const;
-    void dropPendingChanges();
     void endProgram();
     void screenCheck();
     /// The window that a box belongs to: this one cannot be seen while it loads.

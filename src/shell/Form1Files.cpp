@@ -59,12 +59,12 @@ void Form1::Datei_Open_Click() {
 }
 
 bool Form1::giveUpPendingChanges() {
-    if (pendingChanges() > 0) {
+    if (m_forms.liste.pendingChanges() > 0) {
         if (m_context.prompts.message(this, proceedQuestion()) != QMessageBox::Yes) {
             showListe();
             return false;
         }
-        dropPendingChanges();
+        m_forms.liste.forgetChanges();
     }
     m_forms.form2.AuswahlGeaendert = true;
     return true;
