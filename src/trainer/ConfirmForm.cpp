@@ -18,7 +18,7 @@ namespace {
 // In characters.
 constexpr int LongestLine = 60;         ///< of an expression, before it wraps
 constexpr qsizetype LongestWord = 30;   ///< that is not broken
-constexpr qsizetype LongestShown = 500; ///< of an expression, so that the form stays on the screen
+constexpr qsizetype LongestShown = 300; ///< of an expression, so that the form stays on the screen
 
 constexpr QChar ZeroWidthSpace(0x200b);
 

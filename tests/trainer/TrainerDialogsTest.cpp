@@ -152,7 +152,14 @@ TEST(AnswerWindows, AConfirmationOfAVeryLongAnswerStaysOnTheScreen) {
         EXPECT_LE(form.height(), 600);
         for (const char* answer : {"Ja", "Nein"})
             EXPECT_TRUE(form.rect().contains(child<QPushButton>(form, answer).geometry())) << answer;
-        EXPECT_TRUE(child<QLabel>(form, "Typed").text().startsWith(text.left(20)));
+        for (const char* name : {"Typed", "Stored"}) { // what is shown of it is seen whole
+            const auto& label = child<QLabel>(form, name);
+            EXPECT_TRUE(label.text().startsWith(text.left(20)));
+            const QRect room = label.fontMetrics().boundingRect(QRect(0, 0, label.width(), 10000),
+                                                                Qt::TextWordWrap, label.text());
+            EXPECT_LE(room.width(), label.width());
+            EXPECT_LE(room.height(), label.height());
+        }
         form.hide();
     }
 }
