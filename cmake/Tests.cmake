@@ -12,6 +12,7 @@ function(lingomat_test name)
     AUTOMOC ON
     RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
   target_link_libraries(${name} PRIVATE lingomat_flags test_support ${arg_USES})
+  target_precompile_headers(${name} REUSE_FROM test_prelude)
   gtest_discover_tests(${name}
     TEST_PREFIX "${name}."
     DISCOVERY_MODE PRE_TEST

@@ -9,6 +9,8 @@ if command -v ccache >/dev/null; then
     export CMAKE_CXX_COMPILER_LAUNCHER=ccache
     # Clones at different places share their objects.
     export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
+    # What includes precompiled headers is cached only if their macros and times are trusted.
+    export CCACHE_SLOPPINESS=pch_defines,time_macros
 fi
 
 say() { printf '%s\n' "$*"; }
