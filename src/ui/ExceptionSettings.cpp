@@ -22,13 +22,34 @@ QString knownOrRefused(const std::optional<QString>& character, const QString& o
     return u" "_s;
 }
 
+QString section() {
+    return u"Exceptions"_s;
+}
+
+QString keyOf(int number) {
+    return u"Exc_"_s + MyItoS(number);
+}
+
 } // namespace
 
 void GetExceptions(EqualCharacters& exceptions, const SettingsStore& settings) {
     exceptions.readExceptions([&settings](int number) {
-        const QString key = u"Exc_"_s + MyItoS(number);
-        return settings.GetSetting(AppName(), u"Exceptions"_s, key, EqualCharacters::missingValue());
+        return settings.GetSetting(AppName(), section(), keyOf(number), EqualCharacters::missingValue());
     });
+}
+
+void readExceptions(EqualCharacters& exceptions, const SettingsStore& settings) {
+    exceptions.clear();
+    GetExceptions(exceptions, settings);
+}
+
+void saveExceptions(const QStringList& pairs, SettingsStore& settings) {
+    SettingsStore::Batch batch(settings);
+    settings.DeleteSetting(AppName(), section());
+    int number = 0;
+    for (const QString& pair : pairs)
+        settings.SaveSetting(AppName(), section(), keyOf(++number), pair);
+    batch.commit();
 }
 
 QString ReturnIteExceptionL(const EqualCharacters& exceptions, int index, Prompts& prompts) {

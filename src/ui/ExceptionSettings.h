@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace lingomat {
 
@@ -10,6 +11,11 @@ class SettingsStore;
 
 /// Reads the pairs of equal characters from the settings: section "Exceptions", keys "Exc_1" to "Exc_10".
 void GetExceptions(EqualCharacters& exceptions, const SettingsStore& settings);
+/// Forgets the pairs in memory and reads those of the settings. Ten stored pairs are none then.
+void readExceptions(EqualCharacters& exceptions, const SettingsStore& settings);
+/// Replaces section "Exceptions" by these pairs, numbered from 1: each the two characters, or nothing, which
+/// ends the list when it is read. A failure throws as SettingsStore does, and the section stays what it was.
+void saveExceptions(const QStringList& pairs, SettingsStore& settings);
 
 /// Left character of the pair with that number. A number that has no pair is told to the user and gives a
 /// blank.
