@@ -2,6 +2,7 @@
 
 #include "ErrorTrap.h"
 #include "Relationen.h"
+#include "WindowPlacement.h"
 
 #include <QApplication>
 
@@ -19,6 +20,7 @@ Application::Application(const Environment& environment)
       m_help(environment.prompts, environment.programFolder),
       m_liste(m_context),
       m_trainer(m_context, m_liste),
+      m_options(m_context, m_trainer, m_liste),
       m_form2(m_context, m_liste, m_trainer),
       m_form1(m_context, {m_splash, m_liste, m_trainer, m_form2, m_help},
               {environment.programFolder, environment.workArea, environment.desktop}) {
@@ -40,6 +42,9 @@ void Application::connectForms() {
     QObject::connect(&m_trainer, &Trainer::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_form2, &Form2::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
 
+    const auto showTab = [this](int tab) { showOptions(tab); };
+    QObject::connect(&m_form1, &Form1::optionsRequested, &m_options, showTab);
+    QObject::connect(&m_trainer, &Trainer::optionsRequested, &m_options, showTab);
     QObject::connect(&m_form1, &Form1::exitRequested, &m_help, &Help::close);
 
     // The end. Not QCoreApplication::quit, which would close the windows once more.
@@ -48,6 +53,13 @@ void Application::connectForms() {
 
 void Application::showReferences() {
     lingomat::showReferences(m_context, m_liste, &m_liste);
+}
+
+void Application::showOptions(int tab) {
+    m_options.setTab(tab);
+    if (const QWidget* asker = QApplication::activeWindow())
+        keepInFrontOf(m_options, *asker);
+    m_context.prompts.exec(m_options);
 }
 
 void Application::start() {

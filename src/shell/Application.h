@@ -14,6 +14,7 @@
 #include "SharedState.h"
 #include "Trainer.h"
 #include "ValueLists.h"
+#include "frmOptions.h"
 #include "frmSplash.h"
 
 #include <functional>
@@ -55,6 +56,10 @@ public:
     [[nodiscard]] Liste& liste() { return m_liste; }
     [[nodiscard]] Trainer& trainer() { return m_trainer; }
     [[nodiscard]] Help& help() { return m_help; }
+    [[nodiscard]] frmOptions& options() { return m_options; }
+
+    /// Shows the options modally, with that tab (from 1) on top; 0 leaves the one that stands.
+    void showOptions(int tab);
 
 private:
     void connectForms();
@@ -71,6 +76,7 @@ private:
     FontHelp m_fontHelp;
     Liste m_liste;
     Trainer m_trainer;
+    frmOptions m_options;
     Form2 m_form2;
     Form1 m_form1;
 };

@@ -97,6 +97,13 @@ void Form1::Command2_Click() {
     trapped(m_context.prompts, [this] { openForm(m_forms.trainer); });
 }
 
+void Form1::Optionen_Click() {
+    trapped(m_context.prompts, [this] {
+        ensureFormsLoaded(); // the options act on list and Trainer
+        Q_EMIT optionsRequested(0);
+    });
+}
+
 void Form1::Command4_Click() {
     if (m_commandRunning || m_ended)
         return;

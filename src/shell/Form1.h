@@ -83,6 +83,7 @@ public:
     void Command2_Click();       ///< "&Trainer"
     void Command4_Click();       ///< "&Quit"
     void Menu_Datei_Neu_Click(); ///< "&New Vocab Database..."
+    void Optionen_Click();       ///< "&Options..."
     void Datei_Open_Click();     ///< "&Open Vocab Database..."
     void Datei_Beispiel_Click(); ///< "Open E&xample..."
     void mnuHelpInhalt_Click();  ///< "&Content"
@@ -93,6 +94,7 @@ public:
 Q_SIGNALS:
     /// All is closed and hidden; the process is to end.
     void exitRequested();
+    void optionsRequested(int tab); ///< the options dialog is wanted; tab 0: the one that stands
 
 protected:
     bool event(QEvent* event) override;
@@ -168,6 +170,7 @@ private:
     QAction* m_menuAnsichtAuswahl = nullptr;
     QAction* m_menuAuswahlListe = nullptr;
     QAction* m_menuAnsichtVokabeltrainer = nullptr;
+    QAction* m_optionen = nullptr;
     QAction* m_mnuHelpInhalt = nullptr;
     QAction* m_mnuHelpSuchen = nullptr;
     QAction* m_mnuHelpInfo = nullptr;

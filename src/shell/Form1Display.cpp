@@ -29,6 +29,7 @@ constexpr FormText texts[] = {
     {"Menu_Ansicht_Auswahl", u"Auswahl", u"&Selection"},
     {"Menu_Auswahl_Liste", u"Liste", u"Vocab &List"},
     {"Menu_Ansicht_Vokabeltrainer", u"Vokabeltrainer", u"&Trainer"},
+    {"Optionen", u"Optionen ...", u"&Options..."},
     {"mnuHelp", u"Hilfe", u"&Help"},
     {"mnuHelpInhalt", u"&Inhalt", u"&Content"},
     {"mnuHelpSuchen", u"Suchen in der Hilfe", u"&Search in Help"},

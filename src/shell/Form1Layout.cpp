@@ -119,6 +119,8 @@ void Form1::buildMenus() {
     m_menuAnsichtAuswahl = makeEntry(*m_menuAnsicht, "Menu_Ansicht_Auswahl"_L1, "selection"_L1);
     m_menuAuswahlListe = makeEntry(*m_menuAnsicht, "Menu_Auswahl_Liste"_L1, "list"_L1);
     m_menuAnsichtVokabeltrainer = makeEntry(*m_menuAnsicht, "Menu_Ansicht_Vokabeltrainer"_L1, "trainer"_L1);
+    m_menuAnsicht->addSeparator();
+    m_optionen = makeEntry(*m_menuAnsicht, "Optionen"_L1);
 
     QMenu* help = makeMenu(*menuBar(), "mnuHelp"_L1);
     m_mnuHelpInhalt = makeEntry(*help, "mnuHelpInhalt"_L1, "help"_L1);
@@ -147,6 +149,7 @@ void Form1::connectCommands() {
     onChoice(m_menuAnsichtAuswahl, &Form1::Command1_Click);
     onChoice(m_menuAuswahlListe, &Form1::Grid_Click);
     onChoice(m_menuAnsichtVokabeltrainer, &Form1::Command2_Click);
+    onChoice(m_optionen, &Form1::Optionen_Click);
     onChoice(m_mnuHelpInhalt, &Form1::mnuHelpInhalt_Click);
     onChoice(m_mnuHelpSuchen, &Form1::mnuHelpSuchen_Click);
     onChoice(m_mnuHelpInfo, &Form1::mnuHelpInfo_Click);

@@ -121,6 +121,7 @@ public:
 Q_SIGNALS:
     void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
     void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
+    void optionsRequested(int tab); ///< the options dialog is wanted, with that tab (from 1) on top
 
 protected:
     bool event(QEvent* event) override;
@@ -246,6 +247,8 @@ private:
     QPushButton* m_close = nullptr;
     QAction* m_restartEntry = nullptr;
     QAction* m_closeEntry = nullptr;
+    QAction* m_orderEntry = nullptr; ///< menMain
+    QAction* m_testEntry = nullptr;  ///< menTestoptionen
     Command m_step;
     Command m_back;
     Command m_forward;

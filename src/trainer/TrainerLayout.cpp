@@ -9,6 +9,7 @@
 #include "SynonymButtons.h"
 #include "TrainerPanels.h"
 #include "VerdictBox.h"
+#include "frmOptions.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -137,6 +138,10 @@ void Trainer::buildMenus() {
     file.addSeparator();
     m_closeEntry = newEntry(file, "menClose"_L1, QKeySequence::Close);
 
+    QMenu& settings = *addMenu(*menuBar(), u"menEinstellungen"_s);
+    m_orderEntry = newEntry(settings, "menMain"_L1, {});
+    m_testEntry = newEntry(settings, "menTestoptionen"_L1, {});
+
     QMenu& navigation = *addMenu(*menuBar(), u"menNavigieren"_s);
     m_step.entry = newEntry(navigation, "menStep"_L1, Qt::Key_F8);
     navigation.addSeparator();
@@ -180,6 +185,10 @@ void Trainer::connectEvents() {
     connectCommand(m_first, &Trainer::back_Click);
     connectCommand(m_last, &Trainer::ToEnd_Click);
 
+    connect(m_orderEntry, &QAction::triggered, this,
+            [this] { Q_EMIT optionsRequested(frmOptions::TabOfOrder); });
+    connect(m_testEntry, &QAction::triggered, this,
+            [this] { Q_EMIT optionsRequested(frmOptions::TabOfTest); });
     connect(m_toolbar, &TrainerToolbar::buttonPressed, this, &Trainer::Toolbar1_ButtonClick);
     connect(m_search, &QPushButton::clicked, this, &Trainer::Suche_Click);
     connect(m_searchEntry, &QAction::triggered, this, &Trainer::Suche_Click);

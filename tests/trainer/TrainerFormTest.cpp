@@ -26,6 +26,8 @@ struct NamedText {
 constexpr NamedText ActionTexts[] = {
     {"menNeustart", u"Neustart", u"&Restart"},
     {"menClose", u"Schließen", u"&Close"},
+    {"menMain", u"Reihenfolge...", u"&Order..."},
+    {"menTestoptionen", u"Testoptionen...", u"&Test Options..."},
     {"menEinsWeiter", u"Eine Vokabel weiter", u"One Vocab &Forward"},
     {"menEinsZurueck", u"Eine Vokabel zurück", u"One Vocab &Back"},
     {"menStep", u"Step - Geht 1 Schritt weiter", u"Proceed to Next &Step"},
@@ -40,6 +42,7 @@ constexpr NamedText ActionTexts[] = {
 
 constexpr NamedText MenuTitles[] = {
     {"menDatei", u"Datei", u"&File"},
+    {"menEinstellungen", u"Einstellungen", u"&Settings"},
     {"menNavigieren", u"Navigieren", u"&Navigate"},
     {"menAnsicht", u"Ansicht", u"&View"},
     {"menExtras", u"Extras", u"Tools"},
@@ -126,10 +129,14 @@ TEST(Form, EveryControlIsNamedForThoseWhoDoNotSeeIt) {
     EXPECT_EQ(child<QLabel>(bench.trainer, "StatusBar1_Panel2").accessibleName(), bench.panel(1));
 }
 
-TEST(Form, WhatComesLaterIsAbsent) {
+TEST(Form, TheMenuOfSettingsAsksForTheOptionsByTheirTab) {
     TrainingBench bench(3);
-    for (const char* name : {"menEinstellungen", "menMain", "menTestoptionen"})
-        EXPECT_FALSE(hasChild(bench.trainer, name)) << name;
+    QList<int> tabs;
+    QObject::connect(&bench.trainer, &Trainer::optionsRequested, &bench.trainer,
+                     [&tabs](int tab) { tabs += tab; });
+    bench.choose("menMain");
+    bench.choose("menTestoptionen");
+    EXPECT_EQ(tabs, (QList<int>{1, 2}));
 }
 
 TEST(Form, LoadingMovesTheSplashBarOn) {
