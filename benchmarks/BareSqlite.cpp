@@ -44,6 +44,12 @@ qint64 readRow(sqlite3_stmt* statement) {
     return bytes;
 }
 
+QString readText(sqlite3_stmt* statement, int column) {
+    const void* text = sqlite3_column_text16(statement, column);
+    const int units = sqlite3_column_bytes16(statement, column) / 2;
+    return {static_cast<const QChar*>(text), units};
+}
+
 qint64 readLinked(sqlite3_stmt* statement, qint64 key) {
     sqlite3_bind_int64(statement, 1, key);
     qint64 bytes = 0;
@@ -75,6 +81,7 @@ struct BareSqlite::Statements {
                                          "JOIN GrammatikalischeAttribute a ON a.IDA = z.ID WHERE z.IDV = ?1");
         lookups[2] = prepare(connection, "SELECT a.Attribut_Text FROM FunktionaleAttribute_Zwischen z "
                                          "JOIN FunktionaleAttribute a ON a.IDA = z.ID WHERE z.IDV = ?1");
+        expressions = prepare(connection, "SELECT Lang2_Prefix, Lang2_Main, Lang2_Suffix FROM Vokabular");
         find = prepare(connection, "SELECT * FROM Vokabular WHERE ID = ?1");
         change = prepare(connection, "UPDATE Vokabular SET Score = ?2 WHERE ID = ?1");
     }
@@ -87,6 +94,7 @@ struct BareSqlite::Statements {
     Connection connection;
     Statement entries;
     std::array<Statement, 3> lookups;
+    Statement expressions;
     Statement find;
     Statement change;
 };
@@ -108,6 +116,16 @@ qint64 BareSqlite::readEverything() {
     sqlite3_reset(entries);
     m_statements->prepareAndRun("COMMIT");
     return bytes;
+}
+
+void BareSqlite::readExpressions(
+    const std::function<void(const QString& prefix, const QString& main, const QString& suffix)>& take) {
+    m_statements->prepareAndRun("BEGIN");
+    sqlite3_stmt* rows = m_statements->expressions.get();
+    while (sqlite3_step(rows) == SQLITE_ROW)
+        take(readText(rows, 0), readText(rows, 1), readText(rows, 2));
+    sqlite3_reset(rows);
+    m_statements->prepareAndRun("COMMIT");
 }
 
 void BareSqlite::changeScore(qint64 key, int score) {

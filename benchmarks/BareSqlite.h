@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 /// What the same work costs with nothing but SQLite and prepared statements: the yardstick of the ratios.
@@ -14,6 +15,10 @@ public:
     /// Reads every entry with all its fields, and for each the areas, the grammatical and the functional
     /// attributes. Gives the number of bytes read, so that nothing can be left out.
     [[nodiscard]] qint64 readEverything();
+
+    /// Reads the parts of the second expression of every entry, which `take` is given.
+    void readExpressions(
+        const std::function<void(const QString& prefix, const QString& main, const QString& suffix)>& take);
 
     /// Reads the score of one entry by its key and writes another, durably.
     void changeScore(qint64 key, int score);

@@ -1,6 +1,7 @@
 // Measures the program's work beside the same work done with nothing but SQLite, in one run, and prints the
 // figures beside their targets. Ends with 1 when one is missed.
 
+#include "AnswerRules.h"
 #include "BareSqlite.h"
 #include "BenchProgram.h"
 #include "BigDatabase.h"
@@ -113,6 +114,33 @@ void engineScore(benchmark::State& state) {
     }
 }
 
+/// An answer that fits one entry, part of it that is.
+QString wrongAnswer() {
+    return u"dmdyfi"_s;
+}
+
+void bareSearch(benchmark::State& state) {
+    const lingomat::EqualCharacters& equal = g_bench->selected().application().state().Exceptions;
+    for (auto _ : state) {
+        int matches = 0;
+        g_bench->yardstick.readExpressions(
+            [&](const QString& prefix, const QString& main, const QString& suffix) {
+                if (lingomat::matchValue(wrongAnswer(), {prefix, main, suffix, {}}, equal) > 0)
+                    ++matches;
+            });
+        benchmark::DoNotOptimize(matches);
+    }
+}
+
+void answerSearch(benchmark::State& state) {
+    BenchProgram& program = g_bench->selected();
+    program.answerWith([](QDialog& /*meanings*/) {}); // what was found is closed again
+    lingomat::Trainer& trainer = program.application().trainer();
+    trainer.LetzteEingabe = wrongAnswer();
+    for (auto _ : state)
+        trainer.Suche_Click();
+}
+
 /// Every column in turn; the time of one.
 void sortColumn(benchmark::State& state) {
     lingomat::FlexGrid& list = g_bench->selected().application().liste().MSFlexGrid1();
@@ -208,6 +236,7 @@ void printFigures(Report& report) {
     report.figure("start / (bare loop + empty program)",
                   ms("startProgram") / (ms("bareLoop") + ms("startEmpty")), 2, "x");
     report.figure("score: find, edit, update / bare statements", ms("engineScore") / ms("bareScore"), 2, "x");
+    report.figure("search for an answer / bare scan", ms("answerSearch") / ms("bareSearch"), 3, "x");
     report.figure("sort the list by a column", ms("sortColumn"), 100, "ms");
     report.figure("shuffle", ms("shuffle"), 150, "ms");
     report.figure("one step of the Trainer, painted", ms("trainerStep"), 16, "ms");
@@ -232,6 +261,8 @@ int main(int argc, char** argv) {
     add("selectionRun", selectionRun, 1);
     add("bareScore", bareScore, 40);
     add("engineScore", engineScore, 40);
+    add("bareSearch", bareSearch, 3);
+    add("answerSearch", answerSearch, 3);
     add("sortColumn", sortColumn, 23);
     add("shuffle", shuffle, 3);
     add("trainerStep", trainerStep, 50);
