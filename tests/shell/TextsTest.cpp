@@ -33,6 +33,7 @@ constexpr Caption Entries[] = {
     {"Menu_Ansicht_Auswahl", u"&Selection", u"Auswahl"},
     {"Menu_Auswahl_Liste", u"Vocab &List", u"Liste"},
     {"Menu_Ansicht_Vokabeltrainer", u"&Trainer", u"Vokabeltrainer"},
+    {"Optionen", u"&Options...", u"Optionen ..."},
     {"mnuHelpInhalt", u"&Content", u"&Inhalt"},
     {"mnuHelpSuchen", u"&Search in Help", u"Suchen in der Hilfe"},
     {"mnuHelpInfo", u"&About Lingomat", u"Info"},
