@@ -212,12 +212,19 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT doubleClicked(index);
 }
 
+/// A bar takes the focus while the mouse holds it. If the grid had it at once, a question that comes up upon
+/// that would swallow the release, and the bar would scroll on and on. For the same reason what is to follow
+/// waits until the bar has seen the release.
 void FlexGrid::Private::holdBar(bool held) {
     barIsHeld = held;
-    if (held || !std::exchange(scrollingHeld, false))
+    if (held)
         return;
-    // The bar has yet to see the release. It would scroll on below a question that comes up now.
-    QMetaObject::invokeMethod(&q, &FlexGrid::ScrollEnd, Qt::QueuedConnection);
+    const auto letGo = [this] {
+        if (std::exchange(scrollingHeld, false))
+            Q_EMIT q.ScrollEnd();
+        q.setFocus(Qt::MouseFocusReason);
+    };
+    QMetaObject::invokeMethod(&q, letGo, Qt::QueuedConnection);
 }
 
 bool FlexGrid::eventFilter(QObject* watched, QEvent* event) {

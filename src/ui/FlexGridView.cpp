@@ -96,6 +96,7 @@ void FlexGrid::Private::watchScrolling(QScrollBar& bar) {
         if (!barIsHeld)
             Q_EMIT q.ScrollEnd();
     });
+    bar.setFocusPolicy(Qt::ClickFocus);
     bar.installEventFilter(&q);
 }
 

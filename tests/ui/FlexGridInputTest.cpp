@@ -276,9 +276,11 @@ TEST_F(GridInput, ScrollingByTheBarEndsWhenTheButtonIsUp) {
     QTest::mousePress(&bar, Qt::LeftButton, {}, belowTheSlider);
     EXPECT_EQ(scroll.size(), 1);
     EXPECT_EQ(end.size(), 0);
+    EXPECT_FALSE(grid.hasFocus());
     QTest::mouseRelease(&bar, Qt::LeftButton, {}, belowTheSlider);
     QApplication::processEvents();
     EXPECT_EQ(end.size(), 1);
+    EXPECT_EQ(grid.window()->focusWidget(), &grid);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(0, -50));
     QApplication::processEvents();
     EXPECT_EQ(end.size(), 1) << "the view has not moved";
