@@ -4,7 +4,6 @@
 #include "ErrorTrap.h"
 #include "ExpressionText.h"
 #include "FlexGrid.h"
-#include "FontHelp.h"
 #include "FormTexts.h"
 #include "Globals.h"
 #include "InternalCharacters.h"
@@ -93,9 +92,8 @@ const AddListBox::Mode& AddListBox::mode() const {
     return found != std::end(modes) ? *found : modes[0];
 }
 
-AddListBox::AddListBox(Prompts& prompts, ValueLists& values, FontHelp& pad, AttributeCells cells,
-                       QWidget* parent)
-    : QDialog(parent), m_prompts(prompts), m_values(values), m_pad(pad), m_cells(std::move(cells)) {
+AddListBox::AddListBox(Prompts& prompts, ValueLists& values, AttributeCells cells, QWidget* parent)
+    : QDialog(parent), m_prompts(prompts), m_values(values), m_cells(std::move(cells)) {
     setObjectName(u"AddListBox"_s);
     buildWidgets();
     connectEvents();
@@ -339,7 +337,7 @@ void AddListBox::cmClose_Click() {
 }
 
 void AddListBox::cmdFont_Click() {
-    m_pad.showFor(*this);
+    Q_EMIT specialCharactersRequested(*this);
 }
 
 } // namespace lingomat

@@ -11,7 +11,6 @@ class QPushButton;
 namespace lingomat {
 
 class FlexGrid;
-class FontHelp;
 class Prompts;
 class ValueLists;
 
@@ -33,13 +32,15 @@ class AddListBox final : public QDialog {
     Q_OBJECT
 
 public:
-    AddListBox(Prompts& prompts, ValueLists& values, FontHelp& pad, AttributeCells cells,
-               QWidget* parent = nullptr);
+    AddListBox(Prompts& prompts, ValueLists& values, AttributeCells cells, QWidget* parent = nullptr);
 
     QString Modus;    ///< "Bereich", "GrammatikalischeAttribute" or "FunktionaleAttribute"
     QString Ergebnis; ///< what OK made of the assigned values: each followed by ";"
 
     void SetUserInterfaceProperties();
+
+Q_SIGNALS:
+    void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -70,7 +71,6 @@ private:
 
     Prompts& m_prompts;
     ValueLists& m_values;
-    FontHelp& m_pad;
     AttributeCells m_cells;
     QListWidget* LbAvailable = nullptr;
     QListWidget* LbSelected = nullptr;

@@ -1,11 +1,12 @@
 #include "Liste.h"
 
+#include "CellOverlay.h"
 #include "ErrorTrap.h"
 #include "FlexGrid.h"
 #include "SharedState.h"
 
-#include <QEvent>
-#include <QMenu>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 
 namespace lingomat {
 
@@ -19,7 +20,6 @@ Liste::~Liste() = default;
 
 void Liste::connectEvents() {
     connectCommands();
-    connect(m_grid, &FlexGrid::mouseMoved, this, &Liste::SetColResize);
     connect(m_grid, &FlexGrid::headerClicked, this, &Liste::headerClick);
     // The mark goes where the user goes: a key enters another cell, a click may fall on the current one.
     connect(m_grid, &FlexGrid::EnterCell, this, [this] {
@@ -27,6 +27,7 @@ void Liste::connectEvents() {
             SetzeMarke();
     });
     connect(m_grid, &FlexGrid::pressed, this, [this] { SetzeMarke(); });
+    connectEditing();
     m_grid->installEventFilter(this);
 }
 
@@ -44,6 +45,7 @@ void Liste::Form_Load() {
     m_grid->setRow(0);
     for (int column = ColSchluessel; column < m_grid->Cols(); ++column)
         m_grid->setColAlignment(column, 0);
+    m_overlay->clear();
     Q_EMIT loadProgress(70);
 
     GetProperties();
@@ -77,17 +79,35 @@ qint16 Liste::Fgi(int row, int column) const {
 }
 
 bool Liste::event(QEvent* event) {
+    if (event->type() == QEvent::Close)
+        commitOverlay();
     const bool handled = QMainWindow::event(event);
-    if (event->type() == QEvent::WindowActivate)
-        Form_Activate();
+    switch (event->type()) {
+    case QEvent::WindowActivate: Form_Activate(); break;
+    case QEvent::WindowDeactivate:
+    case QEvent::Hide: emergencyCommit(); break;
+    default: break;
+    }
     return handled;
 }
 
 bool Liste::eventFilter(QObject* watched, QEvent* event) {
-    // A focus that comes back by itself marks nothing after a sort.
-    if (watched == m_grid && event->type() == QEvent::FocusIn && !m_sorted)
-        SetzeMarke();
+    if (watched == m_grid && gridEvent(*event))
+        return true;
+    if (watched == m_grid->viewport() && event->type() == QEvent::MouseButtonRelease)
+        SetMehrfachParameter();
     return QMainWindow::eventFilter(watched, event);
+}
+
+/// Whether the grid is not to see the event any more.
+bool Liste::gridEvent(QEvent& event) {
+    switch (event.type()) {
+    case QEvent::FocusIn: MSFlexGrid1_GotFocus(); return false;
+    case QEvent::KeyPress: return keyPressInGrid(static_cast<QKeyEvent&>(event));
+    case QEvent::KeyRelease: SetMehrfachParameter(); return false;
+    case QEvent::InputMethod: return inputMethodInGrid(static_cast<QInputMethodEvent&>(event));
+    default: return false;
+    }
 }
 
 } // namespace lingomat

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "ExpressionText.h"
 #include "FormContext.h"
 #include "KeyRecord.h"
 #include "ListColumns.h"
+#include "ListEditing.h"
 #include "RowMark.h"
 
 #include <QMainWindow>
@@ -15,6 +17,8 @@
 class QAction;
 class QLabel;
 class QLayout;
+class QInputMethodEvent;
+class QKeyEvent;
 class QMenu;
 class QProgressBar;
 class QPushButton;
@@ -25,6 +29,7 @@ class Recordset;
 
 namespace lingomat {
 
+class CellOverlay;
 class FlexGrid;
 
 /// Look up the packed attributes ("a;b;") of an entry by its ID.
@@ -110,6 +115,8 @@ public:
     /// Takes over what is being typed, as leaving the cell does: to be called first by every command that
     /// reads the grid or moves its current cell.
     void commitOverlay();
+    /// Writes an expression, told by its parts, into the current row, in the language of the current column.
+    void AusdruckDialogOK(const ExpressionParts& entered);
 
     // Sorting, by the current column. Afterwards no row is marked.
     void SortAccordingToCol(); ///< a language column opens a menu that sorts
@@ -147,6 +154,11 @@ Q_SIGNALS:
     void rowsChanged();           ///< rows have come or gone: a training session has to start anew
     void referencesRequested();   ///< of the entry in the current row
     void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
+    /// The expression in the current cell is to be edited. `typed` goes behind its main part, `cell` is the
+    /// place of the cell on the screen.
+    void expressionEditorRequested(const ExpressionParts& parts, const QString& typed, const QRect& cell);
+    /// A value list has grown; the kind is that of ValueLists.
+    void valueEntered(const QString& text, const QString& kind);
 
 protected:
     bool event(QEvent* event) override;
@@ -156,6 +168,48 @@ private:
     void buildWidgets();
     void buildMenus();
     void connectEvents();
+
+    // Editing (ListeEdit.cpp).
+    void buildOverlay();
+    bool gridEvent(QEvent& event);
+    void connectEditing();
+    void MSFlexGrid1_MouseMove();
+    void MSFlexGrid1_Click();
+    /// `typed` is empty for a key that types nothing. Whether the key was used.
+    bool MSFlexGrid1_KeyPress(int key, const QString& typed);
+    void MSFlexGrid1_GotFocus();
+    void MSFlexGrid1_LeaveCell();
+    [[nodiscard]] bool cellCanBeEdited() const;
+    [[nodiscard]] bool severalRowsSelected() const;
+    void openEditor(const QString& typed);
+    void MSFlexGridEdit(CellEditor overlay, const QString& typed);
+    void editAttributes();
+    [[nodiscard]] bool allRowsAreMeant();
+    void spreadSelection(bool allRows);
+    void recordChanges();
+    void FlexGridDoCell();
+    [[nodiscard]] QString MSFlexGrid_GotFocus();
+    void writeSelection(const QString& text);
+    void noteValue(const QString& text, const QString& kind);
+    void announceNewValues(const QStringList& before, const QString& kind);
+    void emergencyCommit();
+    void fillPendingRows();
+
+    // Its keys (ListeKeys.cpp).
+    void MSFlexGrid1_KeyDown(const QKeyEvent& event);
+    bool keyPressInGrid(const QKeyEvent& event);
+    bool backspaceInGrid(const QKeyEvent& event);
+    bool inputMethodInGrid(QInputMethodEvent& event);
+    bool EditKeyCode(int key, Qt::KeyboardModifiers modifiers);
+    bool MSFlexGridDoSonderzeichen(int key);
+    bool MSFlexGrid_KeyPress_Standard(int key);
+    void stepColumn(int step);
+    void stepRow(int step);
+
+    // The editor of expressions (ListeExpression.cpp).
+    [[nodiscard]] int firstPartColumn() const;
+    [[nodiscard]] ExpressionParts initialisiereAusdruckDialog() const;
+    void MoveAusdruckDialog(const ExpressionParts& parts, const QString& typed);
 
     // Sorting (ListeSort.cpp).
     void buildSortMenu();
@@ -197,6 +251,12 @@ private:
 
     FormContext& m_context;
     FlexGrid* m_grid = nullptr;
+
+    // Editing.
+    CellOverlay* m_overlay = nullptr;
+    bool CtrlGedrueckt = false; ///< the key that comes next pastes
+    bool m_committing = false;  ///< also while the user is asked about it
+    bool m_fillPending = false; ///< the other rows of the selection have not been asked about yet
 
     // Sorting.
     QMenu* m_wordSort = nullptr;

@@ -17,6 +17,9 @@ constexpr QSize StartSize(900, 560);
 
 constexpr FormText texts[] = {
     {"MSFlexGrid1", u"Vokabelliste", u"Vocab List"},
+    {"WortartBox", u"Wortart", u"Part of Speech"},
+    {"QuelleBox", u"Quelle", u"Source"},
+    {"txtEdit", u"Eingabe", u"Entry"},
     {"Command1", u"Schließen", u"Close",
      u"Schließt das Fenster, Änderungen können zu einem späteren Zeitpunkt übernommen werden.",
      u"Closes this window, changes can be saved later"},
@@ -81,6 +84,8 @@ void Liste::buildWidgets() {
     m_grid->setCols(ListColumnTotal);
     m_grid->setFixedRows(1);
     m_grid->setFixedCols(1);
+
+    buildOverlay();
 
     auto* column = new QVBoxLayout(body);
     column->addWidget(m_grid, 1);

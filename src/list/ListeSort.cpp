@@ -123,6 +123,7 @@ void Liste::SortAccordingToCol() {
         m_grid->setRow(1);
         if (column == ColMarke)
             SetzeMarke();
+        ConditionToUI();
     });
 }
 
@@ -161,6 +162,7 @@ void Liste::SortWord(const QString& mode) {
         m_grid->setCol(column);
         if (m_grid->Rows() > 1)
             m_grid->setRow(1);
+        ConditionToUI();
     });
 }
 

@@ -3,6 +3,7 @@
 #include "ErrorTrap.h"
 #include "Relationen.h"
 #include "WindowPlacement.h"
+#include "frmVokabelEingabe.h"
 
 #include <QApplication>
 
@@ -38,6 +39,11 @@ void Application::connectForms() {
     QObject::connect(&m_liste, &Liste::stateChanged, &m_form1, [this] { m_form1.ConditionToUI(false); });
     QObject::connect(&m_liste, &Liste::rowsChanged, &m_trainer, &Trainer::Command6_Click);
     QObject::connect(&m_liste, &Liste::referencesRequested, &m_liste, [this] { showReferences(); });
+    QObject::connect(&m_liste, &Liste::expressionEditorRequested, &m_liste,
+                     [this](const ExpressionParts& parts, const QString& typed, const QRect& cell) {
+                         editExpression(parts, typed, cell);
+                     });
+    QObject::connect(&m_liste, &Liste::valueEntered, &m_form2, &Form2::NeuerAuswahlwert);
     QObject::connect(&m_liste, &Liste::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_trainer, &Trainer::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_form2, &Form2::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
@@ -60,6 +66,14 @@ void Application::showOptions(int tab) {
     if (const QWidget* asker = QApplication::activeWindow())
         keepInFrontOf(m_options, *asker);
     m_context.prompts.exec(m_options);
+}
+
+void Application::editExpression(const ExpressionParts& parts, const QString& typed, const QRect& cell) {
+    frmVokabelEingabe editor(m_context, m_fontHelp,
+                             {m_liste.MSFlexGrid1(), [this] { m_liste.Command2_Click(); },
+                              [this](const ExpressionParts& entered) { m_liste.AusdruckDialogOK(entered); }},
+                             &m_liste);
+    editor.edit(parts, typed, cell);
 }
 
 void Application::start() {

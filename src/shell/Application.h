@@ -47,6 +47,7 @@ public:
     void start();
     /// The references of the list's current entry, modally.
     void showReferences();
+    void editExpression(const ExpressionParts& parts, const QString& typed, const QRect& cell);
 
     [[nodiscard]] SharedState& state() { return m_state; }
     [[nodiscard]] SettingsStore& settings() { return m_settings; }

@@ -40,13 +40,14 @@ struct Attributes : testing::Test {
     AddListBox& open(const QString& cell = {}, const QString& mode = u"Bereich"_s) {
         if (!cell.isNull())
             grid.setText(cell);
-        form = std::make_unique<AddListBox>(context.prompts, context.values, pad,
+        form = std::make_unique<AddListBox>(context.prompts, context.values,
                                             AttributeCells{grid,
                                                            [this] {
                                                                changed << grid.Row();
                                                                before << grid.Text();
                                                            },
                                                            start, end});
+        QObject::connect(form.get(), &AddListBox::specialCharactersRequested, &pad, &FontHelp::showFor);
         form->Modus = mode;
         form->show();
         form->activateWindow();
@@ -468,7 +469,7 @@ TEST_F(GermanAttributes, QuestionAboutSeveralRows) {
 
 TEST_F(Attributes, FailureIsReportedAndTheDialogStays) {
     form = std::make_unique<AddListBox>(
-        context.prompts, context.values, pad,
+        context.prompts, context.values,
         AttributeCells{grid, [this] { (void)grid.TextMatrix(99, 0); }, start, end});
     form->Modus = u"Bereich"_s;
     form->show();
@@ -490,8 +491,7 @@ TEST_F(Attributes, OpensThePadBesideIt) {
 }
 
 TEST_F(Attributes, EndsARealModalRun) {
-    AddListBox dialog(context.prompts, context.values, pad,
-                      {grid, [this] { changed << grid.Row(); }, start, end});
+    AddListBox dialog(context.prompts, context.values, {grid, [this] { changed << grid.Row(); }, start, end});
     dialog.Modus = u"Bereich"_s;
     grid.setText(u"work;"_s);
     QMetaObject::invokeMethod(
