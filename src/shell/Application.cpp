@@ -23,8 +23,9 @@ Application::Application(const Environment& environment)
       m_trainer(m_context, m_liste),
       m_options(m_context, m_trainer, m_liste),
       m_form2(m_context, m_liste, m_trainer),
-      m_form1(m_context, {m_splash, m_liste, m_trainer, m_form2, m_help},
-              {environment.programFolder, environment.workArea, environment.desktop}) {
+      m_form1(
+          m_context, {m_splash, m_liste, m_trainer, m_form2, m_help},
+          {environment.programFolder, environment.workArea, environment.choosePrinter, environment.desktop}) {
     connectForms();
 }
 

@@ -27,7 +27,8 @@ struct Environment {
     Prompts& prompts;
     RandomSource& random;
     std::function<QDate()> today;
-    std::function<QSize()> workArea;       ///< of the screen, in pixels
+    std::function<QSize()> workArea; ///< of the screen, in pixels
+    PrinterChooser choosePrinter = {};
     QString programFolder;                 ///< see findProgramFolder()
     std::optional<QString> settingsFolder; ///< none: the user's own
     QString language = builtInterfaceLanguage();

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "FormContext.h"
+#include "PrinterDialog.h"
 
 #include <QMainWindow>
 #include <QMessageBox>
@@ -38,6 +39,7 @@ struct WorkingForms {
 struct Surroundings {
     QString programFolder;           ///< where the sample files lie
     std::function<QSize()> workArea; ///< of the screen, in pixels
+    PrinterChooser choosePrinter;
     Desktop desktop;
 };
 
@@ -85,6 +87,7 @@ public:
     void Menu_Datei_Neu_Click(); ///< "&New Vocab Database..."
     void Optionen_Click();       ///< "&Options..."
     void Datei_Open_Click();     ///< "&Open Vocab Database..."
+    void Datei_Drucken_Click();  ///< "&Print...": the entries of the list, in the order of the Trainer
     void Datei_Beispiel_Click(); ///< "Open E&xample..."
     void mnuHelpInhalt_Click();  ///< "&Content"
     void mnuHelpSuchen_Click();  ///< "&Search in Help"
@@ -144,6 +147,10 @@ private:
     void closeFileQuietly();
     void abandonDatabase();
 
+    // Printing.
+    [[nodiscard]] std::optional<PaintedPrinter::Pages> choosePrinter(QWidget* asker);
+    void printList(Printer& printer);
+
     // Working windows.
     void ensureFormsLoaded();
     void loadListe();
@@ -166,6 +173,7 @@ private:
     QAction* m_menuDateiNeu = nullptr;
     QAction* m_dateiOpen = nullptr;
     QAction* m_dateiBeispiel = nullptr;
+    QAction* m_dateiDrucken = nullptr;
     QAction* m_menuDateiBeenden = nullptr;
     QAction* m_menuAnsichtAuswahl = nullptr;
     QAction* m_menuAuswahlListe = nullptr;

@@ -24,6 +24,7 @@ constexpr FormText texts[] = {
     {"Menu_Datei_Neu", u"Neue Vokabeldatenbank...", u"&New Vocab Database..."},
     {"Datei_Open", u"Öffne Vokabeldatenbank ...", u"&Open Vocab Database..."},
     {"Datei_Beispiel", u"Beispiel öffnen...", u"Open E&xample..."},
+    {"Datei_Drucken", u"Drucken...", u"&Print..."},
     {"Menu_Datei_Beenden", u"Beenden", u"&Quit"},
     {"Menu_Ansicht", u"Ansicht", u"&View"},
     {"Menu_Ansicht_Auswahl", u"Auswahl", u"&Selection"},
@@ -102,6 +103,7 @@ void Form1::GreyOut() {
     const SharedState& state = m_context.state;
     const EnabledCommands enabled =
         enabledCommands({state.databaseIsOpen(), state.DBIsEmpty, state.SelectionValid});
+    m_dateiDrucken->setEnabled(enabled.print);
     m_menuAnsicht->setEnabled(enabled.view);
     m_command1->setEnabled(enabled.selection);
     m_menuAnsichtAuswahl->setEnabled(enabled.selection);

@@ -112,6 +112,9 @@ void Form1::buildMenus() {
     m_dateiOpen->setShortcut(QKeySequence::Open);
     m_dateiBeispiel = makeEntry(*file, "Datei_Beispiel"_L1);
     file->addSeparator();
+    m_dateiDrucken = makeEntry(*file, "Datei_Drucken"_L1, "print"_L1);
+    m_dateiDrucken->setShortcut(QKeySequence::Print);
+    file->addSeparator();
     m_menuDateiBeenden = makeEntry(*file, "Menu_Datei_Beenden"_L1, "quit"_L1);
     m_menuDateiBeenden->setShortcut(QKeySequence::Quit);
 
@@ -145,6 +148,7 @@ void Form1::connectCommands() {
     onChoice(m_menuDateiNeu, &Form1::Menu_Datei_Neu_Click);
     onChoice(m_dateiOpen, &Form1::Datei_Open_Click);
     onChoice(m_dateiBeispiel, &Form1::Datei_Beispiel_Click);
+    onChoice(m_dateiDrucken, &Form1::Datei_Drucken_Click);
     onChoice(m_menuDateiBeenden, &Form1::Command4_Click);
     onChoice(m_menuAnsichtAuswahl, &Form1::Command1_Click);
     onChoice(m_menuAuswahlListe, &Form1::Grid_Click);

@@ -15,6 +15,7 @@ struct EnabledCommands {
     bool selection = false;
     bool list = false;
     bool trainer = false;
+    bool print = false;
 
     friend bool operator==(const EnabledCommands&, const EnabledCommands&) = default;
 };

@@ -2,6 +2,7 @@
 
 #include "ErrorTrap.h"
 #include "Globals.h"
+#include "Trainer.h"
 
 #include <QFileInfo>
 
@@ -19,6 +20,24 @@ Message yesNoQuestion(const QString& text) {
             .text = text,
             .buttons = QMessageBox::Yes | QMessageBox::No,
             .defaultButton = QMessageBox::No};
+}
+
+/// What the order of the Trainer means for the printout. The third text is half translated either way.
+QString printOrderText(const Trainer& trainer) {
+    if (trainer.Reihenfolge_sequentiell)
+        return uiText(u"Für den Vokabeltrainer ist die Option 'Sequentiell' eingestellt. Die Vokabeln "
+                      u"werden in der selben Reihenfolge wie in der Vokabelliste ausgedruckt."_s,
+                      u"For the Trainer the option 'sequential' is set. The vocabulary will be printed out "
+                      u"in the same order as currently in the Vocab List."_s);
+    if (trainer.Reihenfolge_shuffle)
+        return uiText(u"Für den Vokabeltrainer ist die Option 'Mischen' eingestellt. Die Vokabeln werden "
+                      u"vor dem Ausdrucken gemischt."_s,
+                      u"For the Trainer the option 'Shuffle' is set. The vocabulary will be shuffled before "
+                      u"printed out."_s);
+    return uiText(u"Für den Vokabeltrainer ist die Option 'Random' eingestellt. The vocabulary will be "
+                  u"shuffled before printed out."_s,
+                  u"For the Trainer the option 'Random' is set. Die Vokabeln werden vor dem Ausdrucken "
+                  u"gemischt."_s);
 }
 
 FileDialogRequest databaseRequest(const QString& title, const QString& currentPath) {
@@ -120,6 +139,21 @@ Message overwriteQuestion(const QString& path) {
                 uiText(u"Datei "_s, u"File "_s) + path +
                 uiText(u" existiert bereits. Datei überschreiben?"_s, u" already exists. Overwrite file?"_s),
             .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+            .defaultButton = QMessageBox::Yes};
+}
+
+Message printQuestion(const Trainer& trainer) {
+    const QString advice =
+        uiText(u"Wenn Sie die Vokabeln in einer anderen Reihenfolge drucken wollen, ändern Sie die "
+               u"Reihenfolgenoption bzw. sortieren Sie die Vokabeln in der Vokabelliste."_s,
+               u"If you want to print out the vocabulary in a different order, change the order option or "
+               u"sort the vocabulary in the Vocab List."_s);
+    const QString question =
+        uiText(u"Sollen die Vokabeln in der aktuell eingestellten Reihenfolge ausgedruckt werden?"_s,
+               u"Shall the vocabulary be printed out in the current order?"_s);
+    return {.title = uiText(u"Vokabelreihenfolge OK?"_s, u"Order of vocabulary OK?"_s),
+            .text = printOrderText(trainer) + "\n\n"_L1 + advice + "\n\n"_L1 + question,
+            .buttons = QMessageBox::Yes | QMessageBox::No,
             .defaultButton = QMessageBox::Yes};
 }
 

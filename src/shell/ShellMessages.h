@@ -7,6 +7,8 @@ class QWidget;
 
 namespace lingomat {
 
+class Trainer;
+
 // What the main window has to say when it loads and when it opens files.
 
 /// The error box: not a valid language database. The text stays in LastErrorText.
@@ -29,6 +31,9 @@ void welcome(Prompts& prompts, QWidget* parent);
 [[nodiscard]] Message proceedQuestion();
 /// Whether a file that exists gives way to a new one.
 [[nodiscard]] Message overwriteQuestion(const QString& path);
+
+/// Whether the order of the Trainer is the one to print in.
+[[nodiscard]] Message printQuestion(const Trainer& trainer);
 
 /// What the creator of databases has to say.
 [[nodiscard]] CDBCreator::Notifier creatorNotifier(Prompts& prompts);

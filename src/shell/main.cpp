@@ -31,6 +31,7 @@ int main(int argc, char** argv) {
                          .random = random,
                          .today = [] { return QDate::currentDate(); },
                          .workArea = primaryWorkArea,
+                         .choosePrinter = printerDialog(prompts),
                          .programFolder = findProgramFolder(QCoreApplication::applicationDirPath()),
                          .settingsFolder = {}});
     program.start();

@@ -82,6 +82,7 @@ test_prompts() {
         ['    auto* box = new QMessageBox;']="message box"
         ['    path = QFileDialog::getOpenFileName(this);']="Prompts::openFile"
         ['    name = QInputDialog::getText(this, title, label);']="Prompts::exec"
+        ['    QPrintDialog dialog(&printer, this);']="PrinterChooser"
         ['    dialog.exec();']="Prompts::exec"
         ['    menu->exec(position);']="popup"
         ['    connect(button, SIGNAL(clicked()), this, SLOT(accept()));']="member function"

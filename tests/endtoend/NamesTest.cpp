@@ -48,6 +48,7 @@ const std::vector<WindowNames>& windows() {
           "Menu_Datei_Neu",
           "Datei_Open",
           "Datei_Beispiel",
+          "Datei_Drucken",
           "Menu_Datei_Beenden",
           "Menu_Ansicht",
           "Menu_Ansicht_Auswahl",
@@ -440,7 +441,7 @@ TEST_F(Names, EveryMenuEntryHasANameAndACaption) {
 }
 
 TEST_F(Names, WhatIsNotBuiltYetIsAbsent) {
-    for (const char* name : {"Datei_Drucken", "Sonderzeichen"})
+    for (const char* name : {"Sonderzeichen"})
         EXPECT_FALSE(hasChild(program.app().form1(), name)) << name;
 }
 

@@ -20,9 +20,12 @@ TEST(GreyOut, StateDecidesWhatCanBeUsed) {
         EnabledCommands enabled;
     };
     constexpr EnabledCommands nothing;
-    constexpr EnabledCommands onlyList{.view = true, .selection = false, .list = true, .trainer = false};
-    constexpr EnabledCommands onlySelection{.view = true, .selection = true, .list = false, .trainer = false};
-    constexpr EnabledCommands all{.view = true, .selection = true, .list = true, .trainer = true};
+    constexpr EnabledCommands onlyList{
+        .view = true, .selection = false, .list = true, .trainer = false, .print = false};
+    constexpr EnabledCommands onlySelection{
+        .view = true, .selection = true, .list = false, .trainer = false, .print = false};
+    constexpr EnabledCommands all{
+        .view = true, .selection = true, .list = true, .trainer = true, .print = true};
     const Row table[] = {
         {{false, false, false}, nothing},      {{false, false, true}, nothing},
         {{false, true, false}, nothing},       {{false, true, true}, nothing},

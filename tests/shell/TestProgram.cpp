@@ -9,7 +9,10 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <gtest/gtest.h>
+
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +43,7 @@ TestProgram::TestProgram(QString interfaceLanguage) : language(std::move(interfa
 }
 
 TestProgram::~TestProgram() {
+    EXPECT_TRUE(m_printers.empty()) << "a question for a printer did not come";
     end();
     setInterfaceLanguage(u"En"_s);
 }
@@ -70,14 +74,16 @@ QString TestProgram::setting(const char* section, const char* key) const {
 Application& TestProgram::make() {
     end();
     Prompts& given = promptsInPlace ? *promptsInPlace : static_cast<Prompts&>(prompts);
-    m_application = std::make_unique<Application>(Environment{.prompts = given,
-                                                              .random = random,
-                                                              .today = [this] { return today; },
-                                                              .workArea = [this] { return workArea; },
-                                                              .programFolder = programFolder(),
-                                                              .settingsFolder = settingsFolder(),
-                                                              .language = language,
-                                                              .desktop = desktop.inPlace()});
+    m_application = std::make_unique<Application>(
+        Environment{.prompts = given,
+                    .random = random,
+                    .today = [this] { return today; },
+                    .workArea = [this] { return workArea; },
+                    .choosePrinter = [this](QWidget*, const QString&) { return answerPrinter(); },
+                    .programFolder = programFolder(),
+                    .settingsFolder = settingsFolder(),
+                    .language = language,
+                    .desktop = desktop.inPlace()});
     return *m_application;
 }
 
@@ -119,6 +125,20 @@ void TestProgram::click(const char* button) {
 
 void TestProgram::choose(const char* entry) {
     child<QAction>(app().form1(), entry).trigger();
+}
+
+void TestProgram::expectPrinter(std::optional<PaintedPrinter::Pages> paper) {
+    m_printers.push_back(std::move(paper));
+}
+
+std::optional<PaintedPrinter::Pages> TestProgram::answerPrinter() {
+    if (m_printers.empty()) {
+        ADD_FAILURE() << "unexpected question for a printer";
+        return {};
+    }
+    std::optional<PaintedPrinter::Pages> paper = std::move(m_printers.front());
+    m_printers.pop_front();
+    return paper;
 }
 
 } // namespace lingomat

@@ -8,6 +8,7 @@
 
 #include <QTemporaryDir>
 
+#include <deque>
 #include <memory>
 
 class QLabel;
@@ -64,6 +65,10 @@ public:
     void click(const char* button); ///< a button of the main window
     void choose(const char* entry); ///< a menu entry of the main window
 
+    /// The answer to the next question for a printer: its paper, or none for Cancel. The question has to
+    /// come.
+    void expectPrinter(std::optional<PaintedPrinter::Pages> paper);
+
     const QString language;
     ScriptedPrompts prompts;
     Prompts* promptsInPlace = nullptr; ///< what the program is given instead, if set before make()
@@ -73,7 +78,10 @@ public:
     NotedDesktop desktop;
 
 private:
+    std::optional<PaintedPrinter::Pages> answerPrinter();
+
     QTemporaryDir m_home;
+    std::deque<std::optional<PaintedPrinter::Pages>> m_printers;
     std::unique_ptr<Application> m_application;
 };
 

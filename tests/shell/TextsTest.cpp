@@ -29,6 +29,7 @@ constexpr Caption Entries[] = {
     {"Menu_Datei_Neu", u"&New Vocab Database...", u"Neue Vokabeldatenbank..."},
     {"Datei_Open", u"&Open Vocab Database...", u"Öffne Vokabeldatenbank ..."},
     {"Datei_Beispiel", u"Open E&xample...", u"Beispiel öffnen..."},
+    {"Datei_Drucken", u"&Print...", u"Drucken..."},
     {"Menu_Datei_Beenden", u"&Quit", u"Beenden"},
     {"Menu_Ansicht_Auswahl", u"&Selection", u"Auswahl"},
     {"Menu_Auswahl_Liste", u"Vocab &List", u"Liste"},
@@ -80,8 +81,9 @@ TEST_P(Texts, MenusHoldTheirEntriesInOrder) {
             all.append(action->isSeparator() ? u"-"_s : action->objectName());
         return all;
     };
-    EXPECT_EQ(names("Menu_Datei"), QStringList({u"Menu_Datei_Neu"_s, u"Datei_Open"_s, u"Datei_Beispiel"_s,
-                                                u"-"_s, u"Menu_Datei_Beenden"_s}));
+    EXPECT_EQ(names("Menu_Datei"),
+              QStringList({u"Menu_Datei_Neu"_s, u"Datei_Open"_s, u"Datei_Beispiel"_s, u"-"_s,
+                           u"Datei_Drucken"_s, u"-"_s, u"Menu_Datei_Beenden"_s}));
     EXPECT_EQ(names("Menu_Ansicht"), QStringList({u"Menu_Ansicht_Auswahl"_s, u"Menu_Auswahl_Liste"_s,
                                                   u"Menu_Ansicht_Vokabeltrainer"_s, u"-"_s, u"Optionen"_s}));
     EXPECT_EQ(names("mnuHelp"),
