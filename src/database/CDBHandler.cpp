@@ -13,11 +13,17 @@ constexpr int VersionOnError = -99;
 /// From this version on the expression fields are named "Lang1_..." and "Lang2_...".
 constexpr int FirstVersionWithPlainFieldNames = 2;
 
-/// Value of a property of table `Vokabular`; Null where it has none of that name.
+/// Value of a property of table `Vokabular`; Null where it has none of that name. Error 3343 where it may
+/// have had one: a file without either property would count as one of the oldest form.
 dao::Value vokabularProperty(const dao::Database& database, const QString& name) {
-    for (const dao::Property& property : database.Table(u"Vokabular"_s).Properties)
+    const dao::TableDef& table = database.Table(u"Vokabular"_s);
+    for (const dao::Property& property : table.Properties)
         if (property.Name == name)
             return property.Value;
+    if (table.PropertiesAreDamaged)
+        throw dao::Error(
+            dao::ErrorNumber::UnrecognizedFormat,
+            u"The file is damaged: property '%1' of the table 'Vokabular' cannot be read."_s.arg(name));
     return {};
 }
 

@@ -186,6 +186,27 @@ void Connection::addTable(const TableDef& definition) {
     m_tables.emplace(definition.Name.toLower(), std::move(table));
 }
 
+Table& Connection::addCopiedTable(const TableDef& definition) {
+    auto table = std::make_unique<Table>();
+    table->definition = definition;
+    table->sqlName = quotedName(definition.Name);
+    QString key = u"_row"_s;
+    while (definition.fieldIndex(key) >= 0)
+        key += u'_';
+    table->keyColumn = quotedName(key);
+    QByteArray columns = table->keyColumn + " INTEGER PRIMARY KEY";
+    for (const Field& field : definition.Fields)
+        columns += ", " + quotedName(field.Name) + (holdsText(field.Type) ? " TEXT" : "");
+    execute("CREATE TABLE " + table->sqlName + "(" + columns + ")");
+    m_tableNames.append(definition.Name);
+    return *m_tables.emplace(definition.Name.toLower(), std::move(table)).first->second;
+}
+
+void Connection::seal(Origin origin) {
+    execute("PRAGMA query_only = ON");
+    m_origin = std::move(origin);
+}
+
 void Connection::addProperty(Table& table, const Property& property) {
     insertProperty(*this, table.definition.Name, property);
     table.definition.Properties.append(property);

@@ -33,6 +33,8 @@ Error damagedFile(const QString& path) {
 Connection::Connection(const QString& path, Mode mode) : m_path(path) {
     try {
         open(mode);
+        if (mode == Mode::Copy)
+            return;
         if (mode == Mode::Create)
             createCatalogue();
         else
@@ -52,8 +54,10 @@ void Connection::open(Mode mode) {
     configureLibrary();
     const int flags = mode == Mode::Create ? SQLITE_OPEN_CREATE : 0;
     sqlite3* raw = nullptr;
-    const int code = sqlite3_open_v2(m_path.toUtf8().constData(), &raw,
-                                     flags | SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    // Without a name it is a temporary database.
+    const QByteArray name = mode == Mode::Copy ? QByteArray() : m_path.toUtf8();
+    const int code =
+        sqlite3_open_v2(name.constData(), &raw, flags | SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     m_handle.reset(raw);
     if (code != SQLITE_OK)
         throw sqliteError(code, raw != nullptr ? sqlite3_errmsg(raw) : "out of memory");
@@ -96,7 +100,7 @@ void Connection::close() {
 }
 
 bool Connection::isReadOnly() const {
-    return sqlite3_db_readonly(m_handle.get(), "main") == 1;
+    return m_origin || sqlite3_db_readonly(m_handle.get(), "main") == 1;
 }
 
 Statement& Connection::statement(const QByteArray& sql) {
@@ -143,6 +147,10 @@ void Connection::prepareToWrite() {
 
 Table* Connection::findTable(const QString& name) {
     requireOpen();
+    if (m_origin)
+        if (const auto damaged = m_origin->damaged.constFind(name.toLower());
+            damaged != m_origin->damaged.constEnd())
+            throw Error(ErrorNumber::UnrecognizedFormat, *damaged);
     const auto found = m_tables.find(name.toLower());
     return found == m_tables.end() ? nullptr : found->second.get();
 }

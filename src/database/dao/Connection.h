@@ -6,10 +6,12 @@
 #include "Schema.h"
 #include "Sqlite.h"
 
+#include <QMap>
 #include <QString>
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -33,10 +35,19 @@ struct Table {
     quint64 changes = 0; ///< grows with every row written through this connection
 };
 
+/// Where the tables of a connection come from that is no file of its own.
+struct Origin {
+    QString version;                ///< of the file's format, "3.0" or "4.0"
+    QList<RowLoss> losses;          ///< what could not be read of it
+    QMap<QString, QString> damaged; ///< tables that cannot be read at all, by lower-case name: why
+};
+
 /// An open file: its SQLite connection, its catalogue, the statements and plans compiled for it.
 class Connection {
 public:
-    enum class Mode { ReadWrite, Create };
+    /// Copy: the tables of a file of another kind; they are kept beside it for as long as the connection is
+    /// open, in memory and, where they are large, in a temporary file of SQLite's own.
+    enum class Mode { ReadWrite, Create, Copy };
     Connection(const QString& path, Mode mode);
     Q_DISABLE_COPY_MOVE(Connection)
     ~Connection() = default;
@@ -48,6 +59,7 @@ public:
 
     [[nodiscard]] const QString& path() const { return m_path; }
     [[nodiscard]] bool isReadOnly() const;
+    [[nodiscard]] const std::optional<Origin>& origin() const { return m_origin; }
 
     /// A prepared statement, kept for the next time.
     [[nodiscard]] Statement& statement(const QByteArray& sql);
@@ -65,6 +77,7 @@ public:
     void beginBurst();
     void endBurst() noexcept;
 
+    /// None where there is none of that name. Error 3343 for a table that a damaged file did not yield.
     [[nodiscard]] Table* findTable(const QString& name);
     [[nodiscard]] QStringList tableNames() const;
     void addTable(const TableDef& definition);
@@ -72,6 +85,11 @@ public:
     void addRelation(const Relation& relation);
     [[nodiscard]] const QList<Relation>& relations() const { return m_relations; }
     void recordLocale(const QString& locale);
+
+    /// Mode Copy: adds a table whose rows need not have keys of their own. The caller fills it through its
+    /// SQL name and ends with seal(), after which nothing can be changed.
+    Table& addCopiedTable(const TableDef& definition);
+    void seal(Origin origin);
 
     /// The plan for a statement and its literals; compiled at the first use of its shape.
     [[nodiscard]] PlanMemo<SelectPlan>::Hit selectPlan(const QString& statement);
@@ -98,6 +116,7 @@ private:
     PlanMemo<SelectPlan> m_memo;
     int m_readers = 0;
     int m_bursts = 0;
+    std::optional<Origin> m_origin;
     bool m_steady = false; ///< a stretch of reading is under way
     std::unordered_map<std::u16string, std::shared_ptr<const SelectPlan>> m_plans; ///< by shape
 };
@@ -109,6 +128,7 @@ public:
     ~Transaction();
     Q_DISABLE_COPY_MOVE(Transaction)
     void commit();
+    void abandon() { m_done = true; } ///< the connection is closed, and has taken everything back
 
 private:
     Connection& m_connection;

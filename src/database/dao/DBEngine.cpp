@@ -1,10 +1,13 @@
 #include "DBEngine.h"
 
 #include "Connection.h"
+#include "JetCopy.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -25,8 +28,10 @@ Error cannotOpen(const QString& path) {
         u"Cannot open the file '%1'. It is in use by another program, or permission is missing."_s.arg(path)};
 }
 
+enum class FileKind { Own, Jet };
+
 /// Looks at the file before SQLite does: an empty file would pass for an empty database there.
-void requireDatabaseFile(const QString& path) {
+FileKind databaseKind(const QString& path) {
     const QFileInfo info(path);
     if (path.isEmpty() || path.contains(QChar::Null) || info.isDir())
         throw invalidPath(path);
@@ -35,14 +40,19 @@ void requireDatabaseFile(const QString& path) {
     QFile file(path);
     if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         throw cannotOpen(path);
-    if (file.read(SqliteMagic.size()) != SqliteMagic)
+    const QByteArray start = file.read(std::max(SqliteMagic.size(), JetSignatureLength));
+    if (isJetFile(start))
+        return FileKind::Jet;
+    if (!start.startsWith(SqliteMagic))
         throw Error(ErrorNumber::UnrecognizedFormat, unrecognizedFormat(path));
+    return FileKind::Own;
 }
 
 } // namespace
 
 Database DBEngine::OpenDatabase(const QString& path) {
-    requireDatabaseFile(path);
+    if (databaseKind(path) == FileKind::Jet)
+        return Database(copyOfJetFile(path));
     return Database(std::make_shared<Connection>(path, Connection::Mode::ReadWrite));
 }
 

@@ -29,12 +29,22 @@ QString Database::Name() const {
 }
 
 QString Database::Version() const {
-    (void)connection();
+    if (const auto& origin = connection().origin())
+        return origin->version;
     return QString::number(LayoutVersion) + u".0"_s;
 }
 
 bool Database::isReadOnly() const {
     return connection().isReadOnly();
+}
+
+bool Database::isJet() const {
+    return connection().origin().has_value();
+}
+
+QList<RowLoss> Database::RowLosses() const {
+    const auto& origin = connection().origin();
+    return origin ? origin->losses : QList<RowLoss>();
 }
 
 QStringList Database::TableNames() const {
@@ -86,6 +96,19 @@ WriteBurst::WriteBurst(const Database& database) : m_connection(database.m_conne
 
 WriteBurst::~WriteBurst() {
     m_connection->endBurst();
+}
+
+WriteBatch::WriteBatch(const Database& database)
+    : m_connection(database.m_connection),
+      m_transaction(std::make_unique<Transaction>(database.connection())) {}
+
+WriteBatch::~WriteBatch() {
+    if (!m_connection->isOpen())
+        m_transaction->abandon();
+}
+
+void WriteBatch::commit() {
+    m_transaction->commit();
 }
 
 } // namespace dao

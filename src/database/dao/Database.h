@@ -11,6 +11,7 @@
 namespace dao {
 
 class Connection;
+class Transaction;
 
 /// Kind of a recordset. The engine knows one: a keyset whose rows are read live.
 enum class RecordsetType { Dynaset = 2 };
@@ -30,8 +31,16 @@ public:
     Version() const; ///< version of the file's layout; serves as a test for "is there a database"
     [[nodiscard]] bool isReadOnly() const;
 
+    /// Whether the file is of the format Jet 3 or 4. Such a database is a copy of the file's tables, taken
+    /// when it was opened: it can be read and not changed.
+    [[nodiscard]] bool isJet() const;
+    /// What could not be read of a damaged file, as far as its tables go; table "MSysObjects" is the list of
+    /// these. Empty for a sound one.
+    [[nodiscard]] QList<RowLoss> RowLosses() const;
+
     [[nodiscard]] QStringList TableNames() const;
-    /// A table's definition. Error 3265 where there is none of that name (case does not count).
+    /// A table's definition. Error 3265 where there is none of that name (case does not count), 3343 where a
+    /// damaged file holds no more of it than the name.
     [[nodiscard]] const TableDef& Table(const QString& name) const;
 
     /// Creates the table with its fields, indexes and properties. A second table of one name raises 3010.
@@ -51,6 +60,8 @@ private:
     friend class Workspace;
     friend class SteadyReading;
     friend class WriteBurst;
+    friend class WriteBatch;
+    friend class TableLoader;
     explicit Database(std::shared_ptr<Connection> connection);
     [[nodiscard]] Connection& connection() const;
 
@@ -83,6 +94,21 @@ public:
 
 private:
     std::shared_ptr<Connection> m_connection;
+};
+
+/// While it lives, rows that are written reach the file together, at commit(), or not at all: for filling a
+/// new database. No tables may be added meanwhile.
+class WriteBatch {
+public:
+    explicit WriteBatch(const Database& database);
+    ~WriteBatch(); ///< without commit(): takes everything back
+    WriteBatch(const WriteBatch&) = delete;
+    WriteBatch& operator=(const WriteBatch&) = delete;
+    void commit();
+
+private:
+    std::shared_ptr<Connection> m_connection;
+    std::unique_ptr<Transaction> m_transaction;
 };
 
 } // namespace dao

@@ -82,7 +82,7 @@ private:
             m_plan->tables.push_back(table);
             for (int i = 0; i < table->definition.Fields.size(); ++i) {
                 const Field& field = table->definition.Fields[i];
-                m_all.push_back({table->definition.Name, field.Name, field.Type == DataType::Text,
+                m_all.push_back({table->definition.Name, field.Name, holdsText(field.Type),
                                  table->sqlName + '.' + quotedName(field.Name)});
                 m_allFields.push_back(i);
             }

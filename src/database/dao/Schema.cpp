@@ -9,4 +9,8 @@ int TableDef::fieldIndex(QStringView name) const {
     return -1;
 }
 
+bool holdsText(DataType type) {
+    return type == DataType::Text || type == DataType::Memo || type == DataType::Date;
+}
+
 } // namespace dao

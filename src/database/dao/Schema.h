@@ -7,12 +7,27 @@
 
 namespace dao {
 
-/// Type numbers as the file's catalogue holds them.
+/// Type numbers as the file's catalogue holds them. A database of this program has fields of the first three;
+/// the others occur in files that are read and not written.
 enum class DataType : int {
     Integer = 3, ///< 16-bit signed
     Long = 4,    ///< 32-bit signed
     Text = 10,   ///< at most `Size` UTF-16 units
+
+    Boolean = 1, ///< -1 or 0
+    Byte = 2,
+    Currency = 5, ///< as a floating number
+    Single = 6,
+    Double = 7,
+    Date = 8,   ///< as text, "yyyy-mm-dd" or "yyyy-mm-dd hh:mm:ss"
+    Binary = 9, ///< this one, LongBinary, GUID and Decimal: always Null
+    LongBinary = 11,
+    Memo = 12, ///< text of any length
+    GUID = 15,
+    Decimal = 20,
 };
+
+[[nodiscard]] bool holdsText(DataType type);
 
 inline constexpr int dbAutoIncrField = 16;      ///< field attribute: the engine numbers new rows
 inline constexpr int dbRelationDontEnforce = 2; ///< relation attribute: recorded, not enforced
@@ -57,9 +72,17 @@ struct TableDef {
     QList<Field> Fields;
     QList<Index> Indexes;
     QList<Property> Properties;
+    bool PropertiesAreDamaged = false; ///< the file is, and some may be missing
 
     /// Position of a field, by name without regard to case; -1 where there is none.
     [[nodiscard]] int fieldIndex(QStringView name) const;
+};
+
+/// Rows of a table that a damaged file did not yield.
+struct RowLoss {
+    QString Table;
+    qint64 Rows = 0;          ///< known to be lost
+    bool IsUncertain = false; ///< there may be more, or deleted ones may have come back
 };
 
 } // namespace dao

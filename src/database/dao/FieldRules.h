@@ -1,0 +1,18 @@
+#pragma once
+
+// Private to the engine: what a field takes.
+
+#include "Schema.h"
+
+namespace dao {
+
+enum class EmptyTexts { AsTheFieldSays, Allowed };
+
+/// The value as a field of that table holds it; errors 6, 3163, 3315, 3421.
+[[nodiscard]] Value fitted(const QString& table, const Field& field, const Value& value,
+                           EmptyTexts rule = EmptyTexts::AsTheFieldSays);
+
+/// What a new row holds in the field; Null where it has no default.
+[[nodiscard]] Value defaultValue(const QString& table, const Field& field);
+
+} // namespace dao
