@@ -16,3 +16,9 @@ if(LINGOMAT_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(lingomat_flags INTERFACE -fsanitize=address,undefined)
 endif()
+
+if(LINGOMAT_FUZZ)
+  target_compile_options(lingomat_flags INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(lingomat_flags INTERFACE -fsanitize=address,undefined)
+endif()
