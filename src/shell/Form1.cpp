@@ -1,5 +1,6 @@
 #include "Form1.h"
 
+#include "CConverter.h"
 #include "ErrorTrap.h"
 #include "Form2.h"
 #include "Liste.h"

@@ -9,6 +9,7 @@
 #include <QSize>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QAction;
@@ -18,6 +19,7 @@ class QPushButton;
 
 namespace lingomat {
 
+class CConverter;
 class Form2;
 class Help;
 class Liste;
@@ -71,6 +73,9 @@ public:
 
     /// Whether the open file is of a version before 3. A version that cannot be read raises 19001.
     bool IsOldVersion();
+    /// Offers to convert the open file into one of the current format, and does it. True: it has been done,
+    /// and the new file is to be opened; both are closed.
+    bool ConvertDueToOldVersion();
     /// Takes the languages of the open file over into the shared state. False: it is not a language database,
     /// and nothing has changed.
     bool SetLanguageSettings();
@@ -114,7 +119,8 @@ private:
     void loadDatabase();
     bool openSampleAtFirstStart();
     bool openRecentDatabase();
-    bool refuseOldFormatAtStart();
+    bool bringToCurrentFormatAtStart();
+    bool openConvertedAtStart();
     bool openRecordsetsAtStart();
     void checkIfEmptyAtStart();
     void loadWorkingForms();
@@ -140,7 +146,11 @@ private:
     void OpenExampleDatabase();
     bool closeCurrentDatabase();
     bool openDatabaseFile(const QString& path);
-    bool refuseOldFormat();
+    /// What has to be done with an open file before it can be worked on. Unknown: its version cannot be read.
+    enum class FileFormat { Current, ToBeConverted, Later, Unknown };
+    [[nodiscard]] FileFormat fileFormat();
+    bool bringToCurrentFormat();
+    QMessageBox::StandardButton askInFront(const Message& message);
     void continueOpening();
     void fillFromOpenedDatabase();
     void refuseInvalidFile();
@@ -167,6 +177,7 @@ private:
     FormContext& m_context;
     WorkingForms m_forms;
     Surroundings m_surroundings;
+    std::unique_ptr<CConverter> m_converter; ///< made at its first use
 
     SprachenEingabe* m_sprachenEingabe = nullptr;
     QMenu* m_menuAnsicht = nullptr;

@@ -17,22 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace lingomat {
 
-namespace {
-
-constexpr int OldestVersion = 3;
-
-} // namespace
-
 void Form1::runCommand(const std::function<void()>& command) {
     const QScopedValueRollback running(m_commandRunning, true);
     trapped(m_context.prompts, command);
-}
-
-bool Form1::IsOldVersion() {
-    const int version = m_context.state.DBHandler.GetDBVersion();
-    if (version < 0)
-        throw dao::alreadyReported();
-    return version < OldestVersion;
 }
 
 bool Form1::SetLanguageSettings() {
@@ -52,7 +39,7 @@ void Form1::Datei_Open_Click() {
             SetzeAnzeigen();
             return;
         }
-        if (!closeCurrentDatabase() || !openDatabaseFile(*path) || refuseOldFormat())
+        if (!closeCurrentDatabase() || !openDatabaseFile(*path) || !bringToCurrentFormat())
             return;
         continueOpening();
     });
@@ -114,17 +101,6 @@ bool Form1::openDatabaseFile(const QString& path) {
         return true;
     abandonDatabase();
     return false;
-}
-
-bool Form1::refuseOldFormat() {
-    // A version that cannot be read counts as a new one; what comes next decides then.
-    bool isOld = false;
-    trapped(m_context.prompts, [this, &isOld] { isOld = IsOldVersion(); });
-    if (!isOld)
-        return false;
-    tellOldFormat(m_context.prompts, boxParent(), m_context.state.CurrentDBPath);
-    abandonDatabase();
-    return true;
 }
 
 void Form1::continueOpening() {

@@ -72,7 +72,7 @@ void Form1::loadDatabase() {
     const bool firstStart = state.CurrentDBPath.isEmpty();
     if (firstStart && !openSampleAtFirstStart())
         return;
-    if (!openRecentDatabase() || refuseOldFormatAtStart())
+    if (!openRecentDatabase() || !bringToCurrentFormatAtStart())
         return;
 
     for (const int value : {42, 45, 48, 50})
@@ -138,21 +138,6 @@ bool Form1::openRecentDatabase() {
     for (const int value : {25, 27, 30, 33, 35, 40})
         setBar(value);
     setLoadStatus(uiText(u"Datenbank geöffnet ..."_s, u"Database is open ..."_s));
-    return true;
-}
-
-bool Form1::refuseOldFormatAtStart() {
-    // A version that cannot be read counts as a new one; what comes next decides then.
-    bool isOld = false;
-    loadStep([this, &isOld] { isOld = IsOldVersion(); });
-    if (!isOld)
-        return false;
-
-    tellOldFormat(m_context.prompts, boxParent(), m_context.state.CurrentDBPath);
-    closeFileQuietly();
-    m_context.state.CurrentDBPath.clear();
-    loadStep([this] { ConditionToUI(true); });
-    m_forms.splash.hide();
     return true;
 }
 

@@ -54,13 +54,6 @@ void tellInvalidFile(Prompts& prompts) {
                                 u"The file is not a valid language database."_s));
 }
 
-void tellOldFormat(Prompts& prompts, QWidget* parent, const QString& path) {
-    prompts.exclamation(parent,
-                        uiText(u"Die Datei '%1' hat ein älteres Format, das nicht geöffnet werden kann."_s,
-                               u"The file '%1' has an older format that cannot be opened."_s)
-                            .arg(path));
-}
-
 void tellDatabaseEmpty(Prompts& prompts, QWidget* parent) {
     prompts.message(parent,
                     {.title = {}, .text = uiText(u"Die Datenbank ist leer!"_s, u"The database is empty!"_s)});

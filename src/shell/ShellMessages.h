@@ -13,7 +13,6 @@ class Trainer;
 
 /// The error box: not a valid language database. The text stays in LastErrorText.
 void tellInvalidFile(Prompts& prompts);
-void tellOldFormat(Prompts& prompts, QWidget* parent, const QString& path);
 void tellDatabaseEmpty(Prompts& prompts, QWidget* parent);
 void tellSampleWillOpen(Prompts& prompts, QWidget* parent);
 void tellLanguagesMissing(Prompts& prompts, QWidget* parent);

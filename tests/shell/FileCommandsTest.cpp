@@ -188,11 +188,11 @@ TEST_F(Open, MissingTableIsToldOnceAndClosesTheFile) {
     expectNothingOpen();
 }
 
-TEST_F(Open, OldFormatIsRefused) {
+TEST_F(Open, OldFormatIsNotOpenedAsItIs) {
     writeDatabase(other, {.entries = someEntries(), .version = 2});
     program.prompts.expectOpenFile(other);
-    program.prompts.expectExclamation(
-        QString("The file '"_L1 + other + "' has an older format that cannot be opened."_L1));
+    program.prompts.expect(
+        {.icon = QMessageBox::Warning, .text = ExpectedText::containing(other), .answer = QMessageBox::No});
     program.choose("Datei_Open");
     expectNothingOpen();
 }
