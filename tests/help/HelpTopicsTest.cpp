@@ -22,10 +22,11 @@ TEST(HelpTopics, AWindowHasItsPage) {
 }
 
 TEST(HelpTopics, AControlWithAPageOfItsOwnDecides) {
-    EXPECT_EQ(helpPageFor(QStringList({u"MinScore"_s, u"page"_s, u"Form2"_s})), u"selection.html#score"_s);
+    EXPECT_EQ(helpPageFor(QStringList({u"MinScore"_s, u"picScore"_s, u"body"_s, u"Form2"_s})),
+              u"selection.html#score"_s);
     EXPECT_EQ(helpPageFor(QStringList({u"inside"_s, u"frmListboxes"_s, u"Form2"_s})),
               u"selection.html#pairs"_s);
-    EXPECT_EQ(helpPageFor(QStringList({u"MinScore"_s, u"Liste"_s})), u"list.html"_s)
+    EXPECT_EQ(helpPageFor(QStringList({u"picScore"_s, u"Liste"_s})), u"list.html"_s)
         << "a name counts in its own window only";
 }
 

@@ -61,6 +61,10 @@ TEST_P(HelpCommands, TheKeyOpensThePageOfTheWindow) {
     EXPECT_EQ(page(), u"trainer.html"_s) << "a button that opens a window tells of that one";
     QTest::keyClick(&child<QLineEdit>(program.app().form2(), "MinScore"), Qt::Key_F1);
     EXPECT_EQ(page(), u"selection.html#score"_s);
+    QTest::keyClick(&child<QLineEdit>(program.app().form2(), "Lang2Suffix"), Qt::Key_F1);
+    EXPECT_EQ(page(), u"selection.html#parts"_s);
+    QTest::keyClick(&child<QLineEdit>(program.app().form2(), "txtAenderungBisJahr"), Qt::Key_F1);
+    EXPECT_EQ(page(), u"selection.html#misc"_s);
     QTest::keyClick(&program.app().liste(), Qt::Key_F1);
     EXPECT_EQ(page(), u"list.html"_s);
 }
