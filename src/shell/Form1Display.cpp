@@ -7,6 +7,7 @@
 #include "GreyOut.h"
 #include "Liste.h"
 #include "SharedState.h"
+#include "Trainer.h"
 
 #include <QAction>
 #include <QLabel>
@@ -77,6 +78,8 @@ void Form1::ConditionToUI(bool refreshProperties) {
     SharedState& state = m_context.state;
     const auto forgetSelection = [this, &state] {
         m_forms.liste.LoescheListe();
+        if (m_trainerLoaded) // its entries went with the rows, its keys may mean others in the next file
+            m_forms.trainer.Command6_Click();
         state.SelectionValid = false;
     };
     if (!state.databaseIsOpen()) {

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -245,6 +246,28 @@ TEST_F(Lesson, RememberedAnswersAreTakenOnTrust) {
         EXPECT_FALSE(child<QLabel>(trainer(), "Richtig").isVisible());
         EXPECT_FALSE(child<QLabel>(trainer(), "NichtWort").isVisible());
     }
+}
+
+TEST_F(Lesson, AnotherFileEndsTheSession) {
+    child<QTabBar>(trainer(), "TabStrip1").setCurrentIndex(2);
+    step();
+    step();
+    EXPECT_EQ(shown(1), lesson()[0].word);
+    child<QToolButton>(trainer(), "UpDown1_Up").click();
+    const QString other = program.path(u"other.lmt"_s);
+    writeDatabase(other, {.entries = someEntries()});
+    program.prompts.expectOpenFile(other);
+    program.choose("Datei_Open");
+    EXPECT_EQ(shown(1), QString());
+    EXPECT_EQ(shown(3), QString());
+    EXPECT_EQ(trainer().Position, 0);
+    EXPECT_EQ(child<QLabel>(trainer(), "StatusBar1_Panel2").text(), u"0");
+    EXPECT_FALSE(child<QWidget>(trainer(), "UpDown1").isVisible());
+    EXPECT_TRUE(child<QWidget>(trainer(), "frNoReferences").isVisible());
+    child<QToolButton>(trainer(), "UpDown1_Up").click(); // where it was it finds nothing of the new file
+    EXPECT_EQ(shown(1), QString());
+    program.prompts.expect({.text = u"End of sequence."});
+    step();
 }
 
 TEST_F(Lesson, ThePadOfSpecialCharactersStaysUsableBesideTheAnswer) {
