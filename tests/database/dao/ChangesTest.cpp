@@ -46,6 +46,59 @@ TEST_F(Changes, AddNewAtAnEndStaysAtThatEnd) {
     EXPECT_EQ(main(recordset), u"a");
 }
 
+TEST_F(Changes, KeyOfANewRowCanBeReadBeforeItIsWritten) {
+    Recordset recordset = words();
+    recordset.AddNew();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(4));
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(4)) << "it is taken once";
+    recordset.setField(u"Main"_s, u"d"_s);
+    recordset.Update();
+    recordset.MoveLast();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(4));
+    EXPECT_EQ(main(recordset), u"d");
+    recordset.AddNew();
+    recordset.Update();
+    recordset.MoveLast();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(5));
+}
+
+TEST_F(Changes, KeyOfANewRowIsKnownInATableThatNeverHadOne) {
+    TableDef table = wortTable();
+    table.Name = u"Leer"_s;
+    database.appendTable(table);
+    Recordset recordset = database.OpenRecordset(u"SELECT * FROM Leer"_s);
+    recordset.AddNew();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(1));
+    recordset.Update();
+    recordset.AddNew();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(2));
+}
+
+TEST_F(Changes, KeyThatWasReadBelongsToNoOtherRow) {
+    Recordset recordset = words();
+    recordset.AddNew();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(4));
+    RawFile(file()).run(u"INSERT INTO Wort(Main) VALUES('other')"_s);
+    recordset.setField(u"Main"_s, u"d"_s);
+    recordset.Update();
+    EXPECT_EQ(RawFile(file()).lines(u"SELECT ID, Main FROM Wort WHERE ID > 3 ORDER BY ID"_s),
+              (QStringList{u"4 | d"_s, u"5 | other"_s}));
+    recordset.AddNew();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(6));
+    recordset.CancelUpdate();
+    recordset.AddNew();
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(7)) << "what was given up leaves a gap";
+}
+
+TEST_F(Changes, KeysEndWhereTheFieldDoes) {
+    RawFile(file()).run(u"UPDATE sqlite_sequence SET seq = 2147483647 WHERE name = 'Wort'"_s);
+    Recordset recordset = words();
+    recordset.AddNew();
+    EXPECT_EQ(errorOf([&] { (void)recordset.field(u"ID"_s); }), 6);
+    RawFile(file()).run(u"UPDATE sqlite_sequence SET seq = 'x' WHERE name = 'Wort'"_s);
+    EXPECT_EQ(recordset.field(u"ID"_s), Value(4)) << "the rows tell as well";
+}
+
 TEST_F(Changes, AddNewToAnEmptyRecordset) {
     Recordset recordset = links();
     EXPECT_TRUE(recordset.EOF_());
