@@ -80,3 +80,7 @@ void BenchProgram::selectAll() {
     if (m_application->liste().countRows() != BigDatabaseEntries)
         throw std::runtime_error("the selection did not find every entry");
 }
+
+lingomat::Prompts& BenchProgram::prompts() {
+    return *m_prompts;
+}

@@ -22,6 +22,7 @@ public:
     /// Has every question answered with Yes, and `act` work on each modal form while it is shown.
     void answerWith(std::function<void(QDialog&)> act);
 
+    [[nodiscard]] lingomat::Prompts& prompts();
     [[nodiscard]] lingomat::Application& application() { return *m_application; }
     [[nodiscard]] QString databasePath() const { return m_folder.filePath(QStringLiteral("big.lmt")); }
 

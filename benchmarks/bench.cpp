@@ -7,11 +7,13 @@
 #include "BigDatabase.h"
 #include "FlexGrid.h"
 #include "Report.h"
+#include "frmSuchen.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QFile>
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QTabBar>
@@ -152,6 +154,76 @@ void sortColumn(benchmark::State& state) {
     }
 }
 
+/// Changes so many rows, all over the list, as an editor does.
+void changeRows(lingomat::Liste& list, int count) {
+    static int version = 0;
+    ++version;
+    lingomat::FlexGrid& grid = list.MSFlexGrid1();
+    const int stride = (grid.Rows() - 1) / count;
+    for (int i = 0; i < count; ++i) {
+        grid.setRow(1 + i * stride);
+        grid.setTextMatrix(grid.Row(), lingomat::Liste::ColQuelle, u"Source %1"_s.arg(version));
+        list.ZeileGeaendert();
+    }
+}
+
+template <int Count>
+void saveRows(benchmark::State& state) {
+    lingomat::Liste& list = g_bench->selected().application().liste();
+    for (auto _ : state) {
+        state.PauseTiming();
+        changeRows(list, Count);
+        state.ResumeTiming();
+        list.Command2_Click();
+    }
+}
+
+/// One of the two, the other beside it, so that the number of rows stays what it is.
+template <bool Append>
+void changeRowCount(benchmark::State& state) {
+    lingomat::Application& application = g_bench->selected().application();
+    lingomat::Liste& list = application.liste();
+    application.trainer().Reihenfolge_sequentiell = true;
+    application.trainer().Reihenfolge_shuffle = false;
+    const auto append = [&list] {
+        list.Command3_Click();
+        list.MSFlexGrid1().flush();
+    };
+    const auto remove = [&list] {
+        list.MSFlexGrid1().setRow(1);
+        list.Command4_Click();
+        list.MSFlexGrid1().flush();
+    };
+    for (auto _ : state) {
+        state.PauseTiming();
+        if (Append)
+            remove();
+        state.ResumeTiming();
+        Append ? append() : remove();
+        state.PauseTiming();
+        if (!Append)
+            append();
+        state.ResumeTiming();
+    }
+    list.forgetChanges();
+}
+
+/// Texts that no row begins with: the walk goes through all of them.
+void searchKeystroke(benchmark::State& state) {
+    BenchProgram& program = g_bench->selected();
+    lingomat::Liste& list = program.application().liste();
+    lingomat::frmSuchen search(program.prompts(),
+                               {.grid = list.MSFlexGrid1(),
+                                .columns = {lingomat::Liste::ColSprache1, lingomat::Liste::ColSprache2},
+                                .languages = {u"German"_s, u"English"_s},
+                                .sortByCol = [&list] { list.SortByAll(); },
+                                .markRow = [&list] { list.SetzeMarke(); }});
+    auto* text = search.findChild<QLineEdit*>(u"txtAusdruck"_s);
+    bool longer = false;
+    for (auto _ : state)
+        text->setText((longer = !longer) ? u"##"_s : u"#"_s);
+}
+
 void shuffle(benchmark::State& state) {
     lingomat::Trainer& trainer = g_bench->selected().application().trainer();
     trainer.Reihenfolge_sequentiell = false;
@@ -238,6 +310,11 @@ void printFigures(Report& report) {
     report.figure("score: find, edit, update / bare statements", ms("engineScore") / ms("bareScore"), 2, "x");
     report.figure("search for an answer / bare scan", ms("answerSearch") / ms("bareSearch"), 3, "x");
     report.figure("sort the list by a column", ms("sortColumn"), 100, "ms");
+    report.figure("save 1 changed row", ms("saveOneRow"), 50, "ms");
+    report.figure("save 1,000 changed rows", ms("saveThousandRows"), 1000, "ms");
+    report.figure("append a row", ms("appendRow"), 50, "ms");
+    report.figure("delete a row", ms("deleteRow"), 50, "ms");
+    report.figure("one keystroke of the search", ms("searchKeystroke"), 50, "ms");
     report.figure("shuffle", ms("shuffle"), 150, "ms");
     report.figure("one step of the Trainer, painted", ms("trainerStep"), 16, "ms");
     report.figure("dialog of a new reference", ms("newReference"), 500, "ms");
@@ -264,6 +341,11 @@ int main(int argc, char** argv) {
     add("bareSearch", bareSearch, 3);
     add("answerSearch", answerSearch, 3);
     add("sortColumn", sortColumn, 23);
+    add("saveOneRow", saveRows<1>, 10);
+    add("saveThousandRows", saveRows<1000>, 1);
+    add("appendRow", changeRowCount<true>, 10);
+    add("deleteRow", changeRowCount<false>, 10);
+    add("searchKeystroke", searchKeystroke, 10);
     add("shuffle", shuffle, 3);
     add("trainerStep", trainerStep, 50);
     add("newReference", newReference, 1);
