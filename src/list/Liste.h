@@ -139,20 +139,25 @@ public:
     void CheckIndices(); ///< takes deleted entries out of the changed ones
 
     // Commands.
-    void Command1_Click();   ///< "Close": nothing is saved or lost
-    void Command2_Click();   ///< "Apply": deletions, changes, new rows, in this order
-    void Command3_Click();   ///< "New Row"
-    void Command4_Click();   ///< "Delete"
-    void Command5_Click();   ///< "OK"
-    void Command6_Click();   ///< "Zeichen..."
-    void Referenzen_Click(); ///< "Referenzen..."
-    void mnSuchen_Click();   ///< "Find in List..."
+    void Command1_Click();          ///< "Close": nothing is saved or lost
+    void Command2_Click();          ///< "Apply": deletions, changes, new rows, in this order
+    void Command3_Click();          ///< "New Row"
+    void Command4_Click();          ///< "Delete"
+    void Command5_Click();          ///< "OK"
+    void Command6_Click();          ///< "Zeichen..."
+    void Referenzen_Click();        ///< "Referenzen..."
+    void mnSuchen_Click();          ///< "Find in List..."
+    void Drucken_Click();           ///< "Drucken"
+    void mnAnsichtOptionen_Click(); ///< "Options..." of the columns
+    void mnOptionen_Click();        ///< "Options..."
 
 Q_SIGNALS:
-    void loadProgress(int value); ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
-    void stateChanged();          ///< the state shared by all forms is another
-    void rowsChanged();           ///< rows have come or gone: a training session has to start anew
-    void referencesRequested();   ///< of the entry in the current row
+    void loadProgress(int value);   ///< how far Form_Load is, on the scale of the splash bar (0 to 100)
+    void stateChanged();            ///< the state shared by all forms is another
+    void rowsChanged();             ///< rows have come or gone: a training session has to start anew
+    void referencesRequested();     ///< of the entry in the current row
+    void printRequested();          ///< of the whole list
+    void optionsRequested(int tab); ///< the options dialog is wanted; tab 0: the one that stands
     void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
     /// The expression in the current cell is to be edited. `typed` goes behind its main part, `cell` is the
     /// place of the cell on the screen.
@@ -224,7 +229,7 @@ private:
     enum class Saving { Done, CleanUpFailed, Stopped };
     [[nodiscard]] QLayout* buildCommands(QWidget& body);
     void fillFileMenu(QMenu& menu);
-    void fillViewMenu(QMenu& menu);
+    void fillViewMenu(QMenu& menu, QMenu& columns);
     void connectCommands();
     void addRow();
     void deleteRow();
@@ -273,13 +278,17 @@ private:
     QPushButton* m_command5 = nullptr;
     QPushButton* m_command6 = nullptr;
     QPushButton* m_referenzen = nullptr;
+    QPushButton* m_drucken = nullptr;
     QAction* m_mnNeueZeile = nullptr;
     QAction* m_mnZeileLoeschen = nullptr;
+    QAction* m_mnDrucken = nullptr;
     QAction* m_mnSpeichern = nullptr;
     QAction* m_mnSuchen = nullptr;
     QAction* m_mnSchliessen = nullptr;
     QAction* m_mnReferenzen = nullptr;
     QAction* m_mnSonderzeichen = nullptr;
+    QAction* m_mnAnsichtOptionen = nullptr;
+    QAction* m_mnOptionen = nullptr;
     QLabel* m_lblProgress = nullptr;
     QProgressBar* m_progressBar = nullptr;
 

@@ -16,6 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace lingomat {
 
+namespace {
+
+constexpr int TabOfColumns = 4; // of the options dialog
+
+} // namespace
+
 void Liste::ConditionToUI() {
     const bool canDelete = countRows() > 0 && m_grid->Row() != 0;
     m_command4->setEnabled(canDelete);
@@ -123,6 +129,21 @@ void Liste::Command5_Click() {
     if (pendingChanges() > 0)
         Command2_Click();
     Command1_Click();
+}
+
+void Liste::Drucken_Click() {
+    commitOverlay();
+    Q_EMIT printRequested();
+}
+
+void Liste::mnAnsichtOptionen_Click() {
+    commitOverlay();
+    Q_EMIT optionsRequested(TabOfColumns);
+}
+
+void Liste::mnOptionen_Click() {
+    commitOverlay();
+    Q_EMIT optionsRequested(0);
 }
 
 void Liste::Command6_Click() {

@@ -48,6 +48,7 @@ QLayout* Liste::buildCommands(QWidget& body) {
     m_command4 = addButton(*rowCommands, body, "Command4");
     m_command6 = addButton(*rowCommands, body, "Command6");
     m_referenzen = addButton(*rowCommands, body, "Referenzen");
+    m_drucken = addButton(*rowCommands, body, "Drucken");
     rowCommands->addStretch();
     auto* help = new QLabel(&body);
     help->setObjectName(u"Label1"_s);
@@ -76,6 +77,8 @@ void Liste::fillFileMenu(QMenu& menu) {
     m_mnNeueZeile = addEntry(menu, u"mnNeueZeile"_s);
     m_mnNeueZeile->setShortcut(QKeySequence::New);
     m_mnZeileLoeschen = addEntry(menu, u"mnZeileLöschen"_s);
+    m_mnDrucken = addEntry(menu, u"mnDrucken"_s);
+    m_mnDrucken->setShortcut(QKeySequence::Print);
     m_mnSpeichern = addEntry(menu, u"mnSpeichern"_s);
     m_mnSpeichern->setShortcut(QKeySequence::Save);
     m_mnSuchen = addEntry(menu, u"mnSuchen"_s);
@@ -84,9 +87,13 @@ void Liste::fillFileMenu(QMenu& menu) {
     m_mnSchliessen->setShortcut(QKeySequence::Close);
 }
 
-void Liste::fillViewMenu(QMenu& menu) {
+void Liste::fillViewMenu(QMenu& menu, QMenu& columns) {
+    columns.addSeparator();
+    m_mnAnsichtOptionen = addEntry(columns, u"mnAnsichtOptionen"_s);
     m_mnReferenzen = addEntry(menu, u"mnReferenzen"_s);
     m_mnSonderzeichen = addEntry(menu, u"mnSonderzeichen"_s);
+    menu.addSeparator();
+    m_mnOptionen = addEntry(menu, u"mnOptionen"_s);
 }
 
 void Liste::connectCommands() {
@@ -104,6 +111,9 @@ void Liste::connectCommands() {
     connectBoth(m_command6, m_mnSonderzeichen, &Liste::Command6_Click);
     connectBoth(m_referenzen, m_mnReferenzen, &Liste::Referenzen_Click);
     connectBoth(nullptr, m_mnSuchen, &Liste::mnSuchen_Click);
+    connectBoth(m_drucken, m_mnDrucken, &Liste::Drucken_Click);
+    connectBoth(nullptr, m_mnAnsichtOptionen, &Liste::mnAnsichtOptionen_Click);
+    connectBoth(nullptr, m_mnOptionen, &Liste::mnOptionen_Click);
 }
 
 } // namespace lingomat

@@ -28,15 +28,17 @@ constexpr FormText texts[] = {
     {"Command4", u"Löschen", u"Delete", u"Löscht die aktuelle Zeile", u"Deletes the current row"},
     {"Command5", u"OK", u"OK", u"Übernimmt alle Änderungen und schließt das Fenster",
      u"Saves all changes and closes this window"},
-    // These two exist in German only.
+    // These three exist in German only.
     {"Command6", u"Zeichen...", u"Zeichen...", u"Öffnet die Fonthilfe", u"Öffnet die Fonthilfe"},
     {"Referenzen", u"Referenzen...", u"Referenzen...", u"Zeigt alle Referenzen für die aktuelle Vokabel an",
      u"Zeigt alle Referenzen für die aktuelle Vokabel an"},
+    {"Drucken", u"Drucken", u"Drucken"},
     {"Label1", u"Hilfe: F1", u"Help: F1"},
     {"ProgressBar1", u"Fortschritt", u"Progress"},
     {"mnFile", u"Datei", u"File"},
     {"mnNeueZeile", u"Neue Zeile", u"New Row"},
     {"mnZeileLöschen", u"Zeile löschen", u"Delete Row"},
+    {"mnDrucken", u"Drucken...", u"Print..."},
     {"mnSpeichern", u"Speichern", u"Save"},
     {"mnSuchen", u"Suchen in Liste", u"Find in List..."},
     {"mnSchließen", u"Schließen", u"Close"},
@@ -58,8 +60,10 @@ constexpr FormText texts[] = {
     {"mnScore", u"nach Fehlerscore", u"by Error Score"},
     {"mnAnsicht", u"Ansicht", u"View"},
     {"mnSpalten", u"Spalten", u"Columns"},
+    {"mnAnsichtOptionen", u"Optionen...", u"Options..."},
     {"mnReferenzen", u"Referenzen...", u"References..."},
     {"mnSonderzeichen", u"Sonderzeichen", u"Special Characters..."},
+    {"mnOptionen", u"Optionen...", u"Options..."},
 };
 
 QMenu* addMenu(QWidget& bar, const QString& name) {
@@ -114,7 +118,7 @@ void Liste::buildMenus() {
         connect(entry, &QAction::triggered, this, [this, column = *rule.option] { mnAnsicht_Click(column); });
         m_columnEntries[static_cast<size_t>(*rule.option)] = entry;
     }
-    fillViewMenu(*view);
+    fillViewMenu(*view, *columns);
 }
 
 void Liste::SetUserInterfaceProperties() {

@@ -45,6 +45,8 @@ void Application::connectForms() {
                          editExpression(parts, typed, cell);
                      });
     QObject::connect(&m_liste, &Liste::valueEntered, &m_form2, &Form2::NeuerAuswahlwert);
+    QObject::connect(&m_liste, &Liste::printRequested, &m_form1, &Form1::Datei_Drucken_Click);
+    QObject::connect(&m_form1, &Form1::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_liste, &Liste::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_trainer, &Trainer::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
     QObject::connect(&m_form2, &Form2::specialCharactersRequested, &m_fontHelp, &FontHelp::showFor);
@@ -52,6 +54,7 @@ void Application::connectForms() {
     const auto showTab = [this](int tab) { showOptions(tab); };
     QObject::connect(&m_form1, &Form1::optionsRequested, &m_options, showTab);
     QObject::connect(&m_trainer, &Trainer::optionsRequested, &m_options, showTab);
+    QObject::connect(&m_liste, &Liste::optionsRequested, &m_options, showTab);
     QObject::connect(&m_form1, &Form1::exitRequested, &m_help, &Help::close);
 
     // The end. Not QCoreApplication::quit, which would close the windows once more.

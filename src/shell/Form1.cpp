@@ -98,6 +98,10 @@ void Form1::Command2_Click() {
     trapped(m_context.prompts, [this] { openForm(m_forms.trainer); });
 }
 
+void Form1::Sonderzeichen_Click() {
+    Q_EMIT specialCharactersRequested(*this);
+}
+
 void Form1::Optionen_Click() {
     trapped(m_context.prompts, [this] {
         ensureFormsLoaded(); // the options act on list and Trainer

@@ -90,6 +90,7 @@ public:
     void Command2_Click();       ///< "&Trainer"
     void Command4_Click();       ///< "&Quit"
     void Menu_Datei_Neu_Click(); ///< "&New Vocab Database..."
+    void Sonderzeichen_Click();  ///< "Special &Characters"
     void Optionen_Click();       ///< "&Options..."
     void Datei_Open_Click();     ///< "&Open Vocab Database..."
     void Datei_Drucken_Click();  ///< "&Print...": the entries of the list, in the order of the Trainer
@@ -103,6 +104,7 @@ Q_SIGNALS:
     /// All is closed and hidden; the process is to end.
     void exitRequested();
     void optionsRequested(int tab); ///< the options dialog is wanted; tab 0: the one that stands
+    void specialCharactersRequested(QWidget& asker); ///< the pad of special characters is wanted
 
 protected:
     bool event(QEvent* event) override;
@@ -189,6 +191,7 @@ private:
     QAction* m_menuAnsichtAuswahl = nullptr;
     QAction* m_menuAuswahlListe = nullptr;
     QAction* m_menuAnsichtVokabeltrainer = nullptr;
+    QAction* m_sonderzeichen = nullptr;
     QAction* m_optionen = nullptr;
     QAction* m_mnuHelpInhalt = nullptr;
     QAction* m_mnuHelpSuchen = nullptr;

@@ -31,6 +31,7 @@ constexpr FormText texts[] = {
     {"Menu_Ansicht_Auswahl", u"Auswahl", u"&Selection"},
     {"Menu_Auswahl_Liste", u"Liste", u"Vocab &List"},
     {"Menu_Ansicht_Vokabeltrainer", u"Vokabeltrainer", u"&Trainer"},
+    {"Sonderzeichen", u"Sonderzeichen", u"Special &Characters"},
     {"Optionen", u"Optionen ...", u"&Options..."},
     {"mnuHelp", u"Hilfe", u"&Help"},
     {"mnuHelpInhalt", u"&Inhalt", u"&Content"},

@@ -123,6 +123,7 @@ void Form1::buildMenus() {
     m_menuAuswahlListe = makeEntry(*m_menuAnsicht, "Menu_Auswahl_Liste"_L1, "list"_L1);
     m_menuAnsichtVokabeltrainer = makeEntry(*m_menuAnsicht, "Menu_Ansicht_Vokabeltrainer"_L1, "trainer"_L1);
     m_menuAnsicht->addSeparator();
+    m_sonderzeichen = makeEntry(*m_menuAnsicht, "Sonderzeichen"_L1);
     m_optionen = makeEntry(*m_menuAnsicht, "Optionen"_L1);
 
     QMenu* help = makeMenu(*menuBar(), "mnuHelp"_L1);
@@ -153,6 +154,7 @@ void Form1::connectCommands() {
     onChoice(m_menuAnsichtAuswahl, &Form1::Command1_Click);
     onChoice(m_menuAuswahlListe, &Form1::Grid_Click);
     onChoice(m_menuAnsichtVokabeltrainer, &Form1::Command2_Click);
+    onChoice(m_sonderzeichen, &Form1::Sonderzeichen_Click);
     onChoice(m_optionen, &Form1::Optionen_Click);
     onChoice(m_mnuHelpInhalt, &Form1::mnuHelpInhalt_Click);
     onChoice(m_mnuHelpSuchen, &Form1::mnuHelpSuchen_Click);
