@@ -54,6 +54,22 @@ TEST_F(OptionsStory, OpenFromTheMainWindowAndFromTheTrainer) {
     EXPECT_EQ(tab, 1);
 }
 
+TEST_F(OptionsStory, OpenFromTheListOnTheColumnsOrAsTheyStand) {
+    program.startWithDatabase();
+    willUse(cancel);
+    choose(program.app().liste(), "mnAnsichtOptionen");
+    EXPECT_EQ(tab, 4);
+    willUse([](QDialog& form) {
+        child<QTabBar>(form, "tbsOptions").setCurrentIndex(2);
+        cancel(form);
+    });
+    choose(program.app().liste(), "mnOptionen");
+    EXPECT_EQ(tab, 4);
+    willUse(cancel);
+    choose(program.app().liste(), "mnOptionen");
+    EXPECT_EQ(tab, 3) << "as it stands";
+}
+
 TEST_F(OptionsStory, PairsAndColumnsAreKeptTheRestIsNot) {
     program.startWithDatabase();
     willUse([](QDialog& form) {

@@ -37,6 +37,7 @@ QList<CommandTexts> buttonTexts() {
         {"Command5", u"OK"_s, u"OK"_s, u"Übernimmt alle Änderungen und schließt das Fenster"_s,
          u"Saves all changes and closes this window"_s},
         {"Command6", u"Zeichen..."_s, u"Zeichen..."_s, u"Öffnet die Fonthilfe"_s, u"Öffnet die Fonthilfe"_s},
+        {"Drucken", u"Drucken"_s, u"Drucken"_s, {}, {}},
         {"Referenzen", u"Referenzen..."_s, u"Referenzen..."_s,
          u"Zeigt alle Referenzen für die aktuelle Vokabel an"_s,
          u"Zeigt alle Referenzen für die aktuelle Vokabel an"_s},
@@ -47,10 +48,13 @@ QList<CommandTexts> entryTexts() {
     return {
         {"mnNeueZeile", u"Neue Zeile"_s, u"New Row"_s, {}, {}},
         {"mnZeileLöschen", u"Zeile löschen"_s, u"Delete Row"_s, {}, {}},
+        {"mnDrucken", u"Drucken..."_s, u"Print..."_s, {}, {}},
         {"mnSpeichern", u"Speichern"_s, u"Save"_s, {}, {}},
         {"mnSuchen", u"Suchen in Liste"_s, u"Find in List..."_s, {}, {}},
         {"mnSchließen", u"Schließen"_s, u"Close"_s, {}, {}},
         {"mnReferenzen", u"Referenzen..."_s, u"References..."_s, {}, {}},
+        {"mnAnsichtOptionen", u"Optionen..."_s, u"Options..."_s, {}, {}},
+        {"mnOptionen", u"Optionen..."_s, u"Options..."_s, {}, {}},
         {"mnSonderzeichen", u"Sonderzeichen"_s, u"Special Characters..."_s, {}, {}},
     };
 }

@@ -191,10 +191,12 @@ TEST(ListeMenus, OfferWhatWorks) {
             entries << (action->menu() ? action->menu()->objectName() : action->objectName());
         return entries;
     };
-    EXPECT_EQ(entriesOf("mnFile"), (QStringList{u"mnNeueZeile"_s, u"mnZeileLöschen"_s, u"mnSpeichern"_s,
-                                                u"mnSuchen"_s, u"mnSchließen"_s}));
-    EXPECT_EQ(entriesOf("mnAnsicht"), (QStringList{u"mnSpalten"_s, u"mnReferenzen"_s, u"mnSonderzeichen"_s}));
-    EXPECT_EQ(entriesOf("mnSpalten").size(), 10);
+    EXPECT_EQ(entriesOf("mnFile"), (QStringList{u"mnNeueZeile"_s, u"mnZeileLöschen"_s, u"mnDrucken"_s,
+                                                u"mnSpeichern"_s, u"mnSuchen"_s, u"mnSchließen"_s}));
+    EXPECT_EQ(entriesOf("mnAnsicht"), (QStringList{u"mnSpalten"_s, u"mnReferenzen"_s, u"mnSonderzeichen"_s,
+                                                   QString(), u"mnOptionen"_s}));
+    EXPECT_EQ(entriesOf("mnSpalten").size(), 12) << "ten columns, a line, and their options";
+    EXPECT_EQ(entriesOf("mnSpalten").last(), u"mnAnsichtOptionen"_s);
 }
 
 TEST(ListeColumns, EntryHidesItsColumnAndKeepsTheChoiceAtOnce) {

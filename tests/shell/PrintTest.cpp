@@ -5,8 +5,10 @@
 #include "PrintOrder.h"
 #include "RecordingPaper.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QProgressBar>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -333,6 +335,20 @@ TEST_F(Print, APrintoutThatIsLostAtTheEndIsTold) {
     program.expectPrinter(lost.output());
     program.prompts.expectErrorContaining(u"The printout was not finished"_s);
     program.choose("Datei_Drucken");
+}
+
+TEST_F(Print, TheListOffersItByButtonAndMenu) {
+    Liste& liste = program.app().liste();
+    const std::function<void()> ways[] = {[&liste] { child<QPushButton>(liste, "Drucken").click(); },
+                                          [&liste] { child<QAction>(liste, "mnDrucken").trigger(); }};
+    for (const auto& choose : ways) {
+        const RecordingPaper another;
+        expectQuestion();
+        program.expectPrinter(another.output());
+        choose();
+        program.prompts.verify();
+        EXPECT_EQ(another.pages()[0].size(), HeadTexts + 8);
+    }
 }
 
 TEST_F(Print, IsOfferedOnceThereIsASelection) {
