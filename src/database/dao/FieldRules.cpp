@@ -2,19 +2,11 @@
 
 #include "EngineError.h"
 
-#include <limits>
-
 using namespace Qt::StringLiterals;
 
 namespace dao {
 
 namespace {
-
-template <typename Number>
-void requireRange(qint64 number) {
-    if (number < std::numeric_limits<Number>::min() || number > std::numeric_limits<Number>::max())
-        throw Error(ErrorNumber::Overflow, u"Overflow"_s);
-}
 
 qint64 wholeNumber(const Value& value) {
     try {

@@ -2,9 +2,19 @@
 
 // Private to the engine: what a field takes.
 
+#include "EngineError.h"
 #include "Schema.h"
 
+#include <limits>
+
 namespace dao {
+
+/// Error 6 where the number does not fit.
+template <typename Number>
+void requireRange(qint64 number) {
+    if (number < std::numeric_limits<Number>::min() || number > std::numeric_limits<Number>::max())
+        throw Error(ErrorNumber::Overflow, QStringLiteral("Overflow"));
+}
 
 enum class EmptyTexts { AsTheFieldSays, Allowed };
 
