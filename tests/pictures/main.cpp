@@ -114,6 +114,12 @@ private:
         form.MSFlexGrid1().setRow(rowWithReference());
         form.SetzeMarke();
         m_stage.take(form, u"list"_s);
+        m_stage.onDialog(u"frmSuchen"_s, [this](QDialog& dialog) {
+            part<QLineEdit>(dialog, "txtAusdruck").setText(u"die"_s);
+            m_stage.take(dialog, u"find"_s);
+        });
+        choose(form, "mnSuchen");
+        form.MSFlexGrid1().setRow(rowWithReference()); // the search has sorted the list
     }
 
     /// The first entry of the list that a reference leaves; the first at all where there is none.
