@@ -8,6 +8,8 @@
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QImageReader>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -124,6 +126,42 @@ TEST_P(HelpPages, ASearchIsQuick) {
     const qsizetype found = searchHelp(pages, GetParam() == u"en"_s ? u"score"_s : u"fehlerscore"_s).size();
     EXPECT_GE(found, 3);
     EXPECT_LT(timer.elapsed(), 2000) << "reading and searching all pages takes a few hundredths of a second";
+}
+
+/// Every text that stands between quotes in the program, without the marks of mnemonics.
+QSet<QString> textsOfTheProgram() {
+    static const QRegularExpression literal(u"\"((?:[^\"\\\\]|\\\\.)*)\""_s);
+    QSet<QString> texts;
+    QDirIterator files(QStringLiteral(LINGOMAT_SOURCES), {u"*.cpp"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        auto found = literal.globalMatch(QString::fromUtf8(file.readAll()));
+        while (found.hasNext())
+            texts.insert(found.next().captured(1).remove(u'&').trimmed());
+    }
+    return texts;
+}
+
+// Captions stand in <b>, words that only weigh more in <strong>.
+TEST_P(HelpPages, CaptionsAreQuotedAsTheyStandInTheProgram) {
+    static const QRegularExpression caption(u"<b>(.*?)</b>"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression tag(u"<[^>]*>"_s);
+    const QSet<QString> texts = textsOfTheProgram();
+    for (const QString& name : filesIn(folder(GetParam()), u"*.html"_s)) {
+        QFile file(book.pathOf(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        auto found = caption.globalMatch(QString::fromUtf8(file.readAll()));
+        while (found.hasNext()) {
+            QString text = found.next().captured(1).remove(tag).simplified();
+            text.replace(u"&gt;"_s, u">"_s).replace(u"&lt;"_s, u"<"_s);
+            EXPECT_TRUE(texts.contains(text) || texts.contains(text + u':'))
+                << name.toStdString() << ": " << text.toStdString();
+        }
+    }
 }
 
 TEST(HelpLanguages, HaveTheSamePagesAnchorsAndPictures) {
