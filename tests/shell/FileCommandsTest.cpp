@@ -228,7 +228,7 @@ TEST(OpenExample, TellsAndOpensTheSampleOfTheLanguage) {
     }
 }
 
-TEST(OpenExample, AsksNothingAboutUnsavedChanges) {
+TEST(OpenExample, AsksNothingAboutUnsavedChangesAndDropsThem) {
     TestProgram program;
     program.startWithDatabase();
     program.installSample();
@@ -236,7 +236,7 @@ TEST(OpenExample, AsksNothingAboutUnsavedChanges) {
     program.prompts.expect({.icon = QMessageBox::NoIcon, .text = ExpectedText::anything()});
     program.choose("Datei_Beispiel");
     EXPECT_EQ(program.app().state().CurrentDBPath, program.sample());
-    EXPECT_EQ(pendingChanges(program), 1);
+    EXPECT_EQ(pendingChanges(program), 0) << "the keys of one file mean nothing in another";
 }
 
 TEST(OpenExample, TakesTheFileAsItIsWhateverItsVersion) {
