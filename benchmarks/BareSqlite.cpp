@@ -47,7 +47,7 @@ qint64 readRow(sqlite3_stmt* statement) {
 QString readText(sqlite3_stmt* statement, int column) {
     const void* text = sqlite3_column_text16(statement, column);
     const int units = sqlite3_column_bytes16(statement, column) / 2;
-    return {static_cast<const QChar*>(text), units};
+    return QString(static_cast<const QChar*>(text), units);
 }
 
 qint64 readLinked(sqlite3_stmt* statement, qint64 key) {

@@ -98,8 +98,8 @@ TEST(FlexGrid, ATextFillsTheSelectionWhereItIsToldTo) {
     EXPECT_EQ(column(grid, 1), QStringList({u""_s, u""_s, u"y"_s, u"y"_s, u"y"_s, u""_s}));
     grid.setRow(1);
     grid.setText(u"z"_s);
-    EXPECT_EQ(column(grid, 2), QStringList({u""_s, u""_s, u"y"_s, u"y"_s, u"y"_s, u""_s}));
-    EXPECT_EQ(column(grid, 1)[1], u"z"_s);
+    EXPECT_EQ(column(grid, 2), QStringList({u""_s, u"z"_s, u"y"_s, u"y"_s, u"y"_s, u""_s}));
+    EXPECT_EQ(column(grid, 1)[1], u"z"_s) << "another row leaves the selected columns";
 }
 
 TEST(FlexGrid, CellsKeepTheirTextsInWhateverOrderTheyAreWritten) {

@@ -287,19 +287,20 @@ TEST_F(GridInput, ScrollingByTheBarEndsWhenTheButtonIsUp) {
 }
 
 TEST_F(GridInput, AClickThatScrollsTheViewIsAClickAllTheSame) {
-    grid.resize(400, 400);
+    const int cut = grid.rowAt(200);
+    const int shown = grid.rowViewportPosition(cut) + grid.rowHeight(cut) / 2; // half of it
+    grid.resize(grid.width(), grid.height() + shown - grid.viewport()->height());
     grid.flush();
     QSignalSpy clicked(&grid, &FlexGrid::clicked);
-    const int cut = grid.columnAt(grid.viewport()->width() - 3);
-    const QPoint place(grid.viewport()->width() - 3, middleOf(3, 1).y());
-    ASSERT_GT(grid.columnViewportPosition(cut) + grid.columnWidth(cut), grid.viewport()->width());
+    const QPoint place(middleOf(3, 1).x(), grid.rowViewportPosition(cut) + 3);
+    ASSERT_EQ(grid.rowAt(place.y()), cut);
     QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, place);
-    ASSERT_NE(grid.columnAt(place.x()), cut) << "the view has moved under the mouse";
-    QTest::mouseMove(grid.viewport(), place + QPoint(0, 1));
-    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, place + QPoint(0, 1));
+    ASSERT_NE(grid.rowAt(place.y()), cut) << "the view has moved under the mouse";
+    QTest::mouseMove(grid.viewport(), place + QPoint(1, 0));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, place + QPoint(1, 0));
     EXPECT_EQ(clicked.size(), 1);
-    EXPECT_EQ(grid.Col(), cut + 1);
-    EXPECT_EQ(grid.ColSel(), cut + 1);
+    EXPECT_EQ(grid.Row(), cut + 1);
+    EXPECT_EQ(grid.RowSel(), cut + 1);
 }
 
 TEST_F(GridInput, ADragIsNoClick) {
