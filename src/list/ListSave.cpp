@@ -92,18 +92,19 @@ int ListSave::rowOf(qint16 id) {
 }
 
 void ListSave::AddNewRows(int count, const std::function<void(int)>& added) {
-    trapped(m_context.prompts, [&] {
-        const KeptCell kept(m_grid);
-        int done = 0;
-        for (int row = m_grid.Rows() - 1; row >= 1 && done < count; --row) {
-            if (m_grid.TextMatrix(row, Column::ColSchluessel) != u"*"_s)
-                continue;
+    const KeptCell kept(m_grid);
+    int done = 0;
+    for (int row = m_grid.Rows() - 1; row >= 1 && done < count; --row) {
+        if (m_grid.TextMatrix(row, Column::ColSchluessel) != u"*"_s)
+            continue;
+        // A row that fails is told to the user and keeps none of the others from the file.
+        trapped(m_context.prompts, [&] {
             added(done);
             m_grid.setRow(row);
             addCurrentRow();
             ++done;
-        }
-    });
+        });
+    }
 }
 
 void ListSave::addCurrentRow() {

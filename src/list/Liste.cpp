@@ -61,6 +61,9 @@ void Liste::Form_Load() {
 
 void Liste::Form_Activate() {
     SortKlick = false;
+    // The Trainer moves the current row: what is marked has to be what the commands work on.
+    if (MarkierteZeile > 0 && MarkierteZeile != m_grid->Row())
+        SetzeMarke();
     ConditionToUI();
 }
 

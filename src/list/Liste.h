@@ -59,7 +59,7 @@ public:
     [[nodiscard]] int pendingChanges() const { return AnzahlGeaendert + AnzahlGeloescht + AnzahlNeu; }
     void forgetChanges();
 
-    qint16 MarkierteZeile = 0; ///< row that carries the mark; 0: none
+    int MarkierteZeile = 0; ///< row that carries the mark; 0: none
 
     [[nodiscard]] FlexGrid& MSFlexGrid1() { return *m_grid; }
     [[nodiscard]] const FlexGrid& MSFlexGrid1() const { return *m_grid; }
@@ -106,9 +106,9 @@ public:
     [[nodiscard]] qint16 Fgi(int row, int column) const;
 
     // Editing in the cells.
-    qint16 MehrfachStart = 0;    ///< row at which the last selection began
-    qint16 MehrfachEnde = -1;    ///< row at which it ended; -1: its rows have been changed already
-    qint16 LetzteSpalte = 0;     ///< column of the last click
+    int MehrfachStart = 0;       ///< row at which the last selection began
+    int MehrfachEnde = -1;       ///< row at which it ended; -1: its rows have been changed already
+    int LetzteSpalte = 0;        ///< column of the last click
     void SetMehrfachParameter(); ///< reads the selection into MehrfachStart and MehrfachEnde
     /// Text of the control that lies over the current cell; none where the cell is not being edited.
     [[nodiscard]] std::optional<QString> overlayText() const;
@@ -234,6 +234,7 @@ private:
     void addRow();
     void deleteRow();
     void clearOnlyRow();
+    [[nodiscard]] qint16 newRows() const;
     [[nodiscard]] bool mayShowReferences();
     void saveChanges();
     [[nodiscard]] Saving saveRows();

@@ -100,6 +100,9 @@ void Liste::saveChanges() {
     forgetChanges();
     m_context.state.DBIsEmpty = !m_context.state.SelectionValid;
     Q_EMIT stateChanged();
+    // A box that came up in between gave the grid the focus, which marks what was being written then.
+    if (MarkierteZeile > 0)
+        SetzeMarke();
     ConditionToUI();
 }
 

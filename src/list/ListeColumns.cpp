@@ -48,6 +48,7 @@ void Liste::SetColResize() {
 }
 
 void Liste::mnAnsicht_Click(ListColumn column) {
+    commitOverlay(); // the cell under it may move away
     ColumnOptions& options = m_context.columns;
     options.setShown(column, !options.isShown(column));
     HideColsAccordingToOptions();

@@ -12,6 +12,9 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <algorithm>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace lingomat {
@@ -96,15 +99,17 @@ void Liste::Command4_Click() {
 void Liste::deleteRow() {
     const int row = m_grid->Row();
     const int column = m_grid->Col();
-    if (m_grid->TextMatrix(row, ColSchluessel) != u"*"_s)
+    const bool isStored = m_grid->TextMatrix(row, ColSchluessel) != u"*"_s;
+    if (isStored)
         GeloeschteZeilen.append(RowPos_To_RecPos(row));
-    else if (AnzahlNeu > 0) // the user may have agreed to lose the new rows before
-        --AnzahlNeu;
 
+    mark().take(MarkierteZeile);
     if (m_grid->Rows() == 2)
         clearOnlyRow();
     else
         m_grid->RemoveItem(row);
+    if (!isStored) // there may be new rows that count no more: given up by the user, or refused by the file
+        AnzahlNeu = std::min(AnzahlNeu, newRows());
     SetzeStatus();
     m_grid->setCol(column);
     MarkierteZeile = 0;
@@ -113,6 +118,13 @@ void Liste::deleteRow() {
     enableSaving(true);
     SetzeMarke();
     ConditionToUI();
+}
+
+qint16 Liste::newRows() const {
+    int rows = 0;
+    for (int row = 1; row < m_grid->Rows(); ++row)
+        rows += m_grid->TextMatrix(row, ColSchluessel) == u"*"_s;
+    return static_cast<qint16>(std::min<int>(rows, std::numeric_limits<qint16>::max()));
 }
 
 /// The last row stays as the placeholder, which nothing can be done with.

@@ -51,9 +51,8 @@ void Liste::connectEditing() {
 
 void Liste::SetMehrfachParameter() {
     trapped(m_context.prompts, [this] {
-        MehrfachEnde = -1; // in a row beyond 16 bits no others go along
-        MehrfachStart = dao::toInteger16(m_grid->Row());
-        MehrfachEnde = takesSeveralRows(m_grid->Col()) ? dao::toInteger16(m_grid->RowSel()) : MehrfachStart;
+        MehrfachStart = m_grid->Row();
+        MehrfachEnde = takesSeveralRows(m_grid->Col()) ? m_grid->RowSel() : MehrfachStart;
     });
 }
 
@@ -75,7 +74,7 @@ void Liste::MSFlexGrid1_MouseMove() {
 }
 
 void Liste::MSFlexGrid1_Click() {
-    LetzteSpalte = dao::toInteger16(m_grid->Col());
+    LetzteSpalte = m_grid->Col();
     if (std::exchange(SortKlick, false) || !cellCanBeEdited())
         return;
     if (editorOf(m_grid->Col()) != CellEditor::None)
@@ -239,6 +238,7 @@ void Liste::emergencyCommit() {
         if (CheckIfEntryChanged())
             ZeileGeaendert();
         m_grid->setRowSel(m_grid->Row());
+        m_grid->setColSel(m_grid->Col());
         FlexGridDoCell();
         m_grid->setRowSel(rowSel);
     });

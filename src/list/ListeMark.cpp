@@ -13,7 +13,7 @@ void Liste::SetzeMarke() {
         mark().take(MarkierteZeile);
         if (row != 0)
             mark().put(row);
-        MarkierteZeile = dao::toInteger16(row);
+        MarkierteZeile = row;
         m_sorted = m_sorted && row == 0;
         ConditionToUI();
     });

@@ -43,6 +43,7 @@ void Liste::LoescheListe() {
 void Liste::initialisiereListe() {
     m_grid->Clear();
     m_grid->setRows(1);
+    m_sorted = false;
     SetHeaders();
     AdjustControls();
 }

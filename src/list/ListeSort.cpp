@@ -95,6 +95,7 @@ void Liste::sortByMenu(int column, void (Liste::*sort)()) {
 void Liste::headerClick(int column) {
     if (m_grid->Rows() < 2 || column == ColSchluessel)
         return;
+    commitOverlay();
     SortKlick = true;
     SortAccordingToCol();
     SortKlick = false;

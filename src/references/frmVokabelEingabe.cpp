@@ -80,6 +80,8 @@ void frmVokabelEingabe::openLowerHalf(bool open) {
     m_lowerHalf->setVisible(open);
     layout()->activate();
     resize(width(), open ? VolleHoehe : minimumSizeHint().height());
+    if (open && isVisible())
+        move(keptInside(frameGeometry(), usableScreen(*this)));
 }
 
 bool frmVokabelEingabe::InitSynonymeList() {

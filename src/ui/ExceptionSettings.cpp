@@ -43,6 +43,22 @@ void readExceptions(EqualCharacters& exceptions, const SettingsStore& settings) 
     GetExceptions(exceptions, settings);
 }
 
+std::vector<EqualCharacters> storedPairs(const SettingsStore& settings) {
+    std::vector<EqualCharacters> pairs;
+    for (int number = 1; number <= EqualCharacters::MaximumCount; ++number) {
+        EqualCharacters one;
+        one.readExceptions([&](int place) {
+            return place > 1 ? EqualCharacters::missingValue()
+                             : settings.GetSetting(AppName(), section(), keyOf(number),
+                                                   EqualCharacters::missingValue());
+        });
+        if (one.ExceptionCount() == 0)
+            break;
+        pairs.push_back(one);
+    }
+    return pairs;
+}
+
 void saveExceptions(const QStringList& pairs, SettingsStore& settings) {
     SettingsStore::Batch batch(settings);
     settings.DeleteSetting(AppName(), section());

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 namespace lingomat {
 
 class EqualCharacters;
@@ -13,6 +15,8 @@ class SettingsStore;
 void GetExceptions(EqualCharacters& exceptions, const SettingsStore& settings);
 /// Forgets the pairs in memory and reads those of the settings. Ten stored pairs are none then.
 void readExceptions(EqualCharacters& exceptions, const SettingsStore& settings);
+/// The pairs of the settings up to the first gap, each by itself: also the ten that are none together.
+[[nodiscard]] std::vector<EqualCharacters> storedPairs(const SettingsStore& settings);
 /// Replaces section "Exceptions" by these pairs, numbered from 1: each the two characters, or nothing, which
 /// ends the list when it is read. A failure throws as SettingsStore does, and the section stays what it was.
 void saveExceptions(const QStringList& pairs, SettingsStore& settings);

@@ -48,8 +48,10 @@ GridBounds FlexGrid::Private::bounds() const {
             .pageRows = (bottom < 0 ? model.rows() : bottom) - top};
 }
 
-/// A cell that is wider than the view shows its beginning.
+/// A cell that is wider than the view shows its beginning. In a column without width only the row counts.
 void FlexGrid::Private::scrollIntoView(GridCell cell) {
+    if (widthOf(cell.col) == 0)
+        cell.col = std::max(0, q.columnAt(0)) + model.fixedCols();
     q.scrollTo(model.itemOf(cell.row, cell.col), QAbstractItemView::EnsureVisible);
 }
 

@@ -247,6 +247,28 @@ TEST(ListeCommands, NewRowThatWasGivenUpCanBeDeletedWithoutHidingAnotherChange) 
     EXPECT_TRUE(bench.button("Command2").isEnabled());
 }
 
+TEST(ListeCommands, DeletingARowThatTheFileRefusedHidesNoOtherNewRow) {
+    StoredList bench;
+    bench.fill({u"one"_s});
+    bench.list.Command3_Click();
+    bench.list.AnzahlNeu = 0; // as after a save that failed for this row
+    bench.list.Command3_Click();
+    EXPECT_EQ(bench.list.AnzahlNeu, 1);
+    bench.remove(2);
+    EXPECT_EQ(bench.list.AnzahlNeu, 1);
+    EXPECT_TRUE(bench.button("Command2").isEnabled());
+}
+
+TEST(ListeCommands, TheMarkFollowsARowThatAnotherFormHasChosen) {
+    StoredList bench;
+    bench.fill({u"one"_s, u"two"_s, u"three"_s});
+    bench.grid.setRow(1);
+    bench.list.SetzeMarke();
+    bench.grid.setRow(3);
+    bench.list.Form_Activate();
+    EXPECT_EQ(bench.list.MarkierteZeile, 3);
+}
+
 // Closing
 
 TEST(ListeCommands, CloseKeepsRowsAndCounters) {

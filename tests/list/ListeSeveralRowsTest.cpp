@@ -61,14 +61,17 @@ TEST(SelectedRows, ThoseOfAnEarlierSelectionDoNotCount) {
     EXPECT_EQ(bench.column(Liste::ColQuelle), QStringList({u""_s, u""_s, u""_s, u""_s, u""_s, u"ab"_s}));
 }
 
-TEST(SelectedRows, BeyondSixteenBitsIsOneRow) {
+TEST(SelectedRows, BeyondSixteenBitsAreRowsLikeAnyOther) {
     EditBench bench;
-    bench.drag(2, 4, Liste::ColQuelle);
-    bench.grid.setRows(32769);
+    bench.grid.setRows(32771);
     bench.grid.setRow(32768);
-    bench.context.prompts.expectError(u"Overflow"_s);
+    bench.grid.setCol(Liste::ColQuelle);
+    bench.grid.setRowSel(32770);
     bench.list.SetMehrfachParameter();
-    EXPECT_EQ(bench.list.MehrfachEnde, -1);
+    EXPECT_EQ(bench.list.MehrfachStart, 32768);
+    EXPECT_EQ(bench.list.MehrfachEnde, 32770);
+    bench.list.SetzeMarke();
+    EXPECT_EQ(bench.list.MarkierteZeile, 32768);
 }
 
 // The question, in both directions and whichever way the overlay is left.
@@ -175,15 +178,43 @@ TEST(SeveralRows, TheQuestionIsInGermanToo) {
 }
 
 TEST(SeveralRows, OneColumnOnlyWhateverElseIsSelected) {
+    for (const Leaving& way : waysOut()) {
+        SCOPED_TRACE(way.name);
+        EditBench bench;
+        bench.list.resize(1700, 130);
+        bench.go(2, Liste::ColZusatzinfo);
+        bench.press(Qt::Key_Down, Qt::ShiftModifier);
+        bench.press(Qt::Key_Right, Qt::ShiftModifier);
+        bench.type(u"ab"_s);
+        bench.expectQuestion(true);
+        way.leave(bench);
+        bench.context.prompts.verify();
+        QStringList cells = bench.column(Liste::ColZusatzinfo);
+        cells.sort();
+        EXPECT_EQ(cells, QStringList({u""_s, u""_s, u""_s, u"ab"_s, u"ab"_s}));
+        EXPECT_EQ(bench.column(Liste::ColQuelle), nothing);
+    }
+}
+
+TEST(SeveralRows, ALookElsewhereLeavesTheOtherColumnsOfTheRow) {
     EditBench bench;
-    bench.go(2, Liste::ColZusatzinfo);
-    bench.press(Qt::Key_Down, Qt::ShiftModifier);
+    bench.go(2, Liste::ColBeispielsatz);
+    bench.press(Qt::Key_Right, Qt::ShiftModifier);
     bench.press(Qt::Key_Right, Qt::ShiftModifier);
     bench.type(u"ab"_s);
-    bench.expectQuestion(true);
-    bench.press(Qt::Key_Return);
-    EXPECT_EQ(bench.column(Liste::ColZusatzinfo), QStringList({u""_s, u"ab"_s, u"ab"_s, u""_s, u""_s}));
+    bench.deactivate();
+    EXPECT_EQ(bench.column(Liste::ColBeispielsatz), QStringList({u""_s, u"ab"_s, u""_s, u""_s, u""_s}));
+    EXPECT_EQ(bench.column(Liste::ColZusatzinfo), nothing);
     EXPECT_EQ(bench.column(Liste::ColQuelle), nothing);
+}
+
+TEST(SeveralRows, HidingAColumnTakesTheTextOverFirst) {
+    EditBench bench;
+    bench.go(2, Liste::ColQuelle);
+    bench.type(u"ab"_s);
+    bench.entry("mnAnsichtQuelle").trigger();
+    EXPECT_EQ(bench.overlay(), nullptr);
+    EXPECT_EQ(bench.column(Liste::ColQuelle), QStringList({u""_s, u"ab"_s, u""_s, u""_s, u""_s}));
 }
 
 TEST(SeveralRows, AKeyOfTheWindowAskedWhileTheOverlayIsOpenChangesNothingTwice) {

@@ -303,6 +303,19 @@ TEST_F(GridInput, AClickThatScrollsTheViewIsAClickAllTheSame) {
     EXPECT_EQ(grid.RowSel(), cut + 1);
 }
 
+TEST_F(GridInput, KeysScrollTheRowIntoViewFromAColumnWithoutWidth) {
+    grid.setColWidth(1, 0);
+    grid.setRow(1);
+    grid.setCol(1);
+    grid.flush();
+    for (int step = 0; step < 60; ++step)
+        QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.Row(), 61);
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_TRUE(grid.viewport()->rect().intersects(
+        grid.visualRect(grid.model()->index(61 - grid.FixedRows(), 2 - grid.FixedCols()))));
+}
+
 TEST_F(GridInput, ADragIsNoClick) {
     QSignalSpy clicked(&grid, &FlexGrid::clicked);
     QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middleOf(2, 2));
