@@ -186,7 +186,7 @@ void CSelection::recallPair(const ListPair& pair, const QString& section) {
             break;
         stored.append(value);
     }
-    const ChosenValues values = chooseFrom(m_form.offered(pair), stored);
+    const DividedValues values = chooseFrom(m_form.offered(pair), stored);
     LeereListen(*pair.left, *pair.right);
     KopiereListe(values.left, *pair.left);
     KopiereListe(values.right, *pair.right);

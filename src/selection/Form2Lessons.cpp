@@ -4,6 +4,7 @@
 #include "ErrorTrap.h"
 #include "Globals.h"
 #include "LessonRules.h"
+#include "SharedState.h"
 #include "ValueLists.h"
 #include "frmSelectAuswahl.h"
 
@@ -76,7 +77,7 @@ void Form2::cmbName_Click() {
 
 void Form2::recallLesson() {
     trapped(m_context.prompts, [this] {
-        const bool named = !m_lessons->lessonName().isEmpty();
+        const bool named = m_context.state.databaseIsOpen() && !m_lessons->lessonName().isEmpty();
         const bool known = named && m_lessons->SetAllFromRegistryToForm2();
         showLessonCommands(named, known);
     });

@@ -41,12 +41,12 @@ int lowestFreeNumber(const QStringList& keys) {
     return number;
 }
 
-ChosenValues chooseFrom(const QStringList& offered, const QStringList& wanted) {
+DividedValues chooseFrom(const QStringList& offered, const QStringList& wanted) {
     QHash<QString, QList<qsizetype>> places; // of a text among those offered, the last one first
     for (qsizetype i = offered.size() - 1; i >= 0; --i)
         places[offered[i]].append(i);
 
-    ChosenValues chosen;
+    DividedValues chosen;
     QSet<qsizetype> moved;
     for (const QString& text : wanted) {
         const auto place = places.find(text);

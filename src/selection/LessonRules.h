@@ -22,15 +22,15 @@ inline constexpr int LessonNameSize = 100; ///< longest name, in UTF-16 units
 /// The lowest number from 1 whose key is not among these.
 [[nodiscard]] int lowestFreeNumber(const QStringList& keys);
 
-struct ChosenValues {
+struct DividedValues {
     QStringList left;  ///< still to be had, in the order in which they were offered
     QStringList right; ///< chosen, in the order of choosing
 
-    friend bool operator==(const ChosenValues&, const ChosenValues&) = default;
+    friend bool operator==(const DividedValues&, const DividedValues&) = default;
 };
 
 /// Moves values over one after the other, each time the first that is left of that text. One that is not
 /// offered, or not any more, is dropped.
-[[nodiscard]] ChosenValues chooseFrom(const QStringList& offered, const QStringList& wanted);
+[[nodiscard]] DividedValues chooseFrom(const QStringList& offered, const QStringList& wanted);
 
 } // namespace lingomat

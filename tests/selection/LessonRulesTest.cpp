@@ -40,7 +40,7 @@ TEST(LowestFreeNumber, FillsTheFirstGap) {
 struct Choice {
     QStringList offered;
     QStringList wanted;
-    ChosenValues result;
+    DividedValues result;
 };
 
 class ChooseFrom : public testing::TestWithParam<Choice> {};
