@@ -179,7 +179,11 @@ void Form1::closeFileQuietly() {
 void Form1::abandonDatabase() {
     closeFileQuietly();
     m_context.state.CurrentDBPath.clear();
-    trapped(m_context.prompts, [this] { ConditionToUI(true); });
+    trapped(m_context.prompts, [this] {
+        ConditionToUI(true);
+        if (m_form2Loaded)
+            m_forms.form2.InitialisiereAuswahlBox(); // lessons belong to a file
+    });
 }
 
 } // namespace lingomat

@@ -31,6 +31,12 @@ void frmOptions::PrepareExceptionsOptions() {
     for (int pair = 1; pair <= exceptions.ExceptionCount(); ++pair)
         m_pairs->enter(ReturnIteExceptionL(exceptions, pair, m_context.prompts),
                        ReturnIteExceptionR(exceptions, pair, m_context.prompts));
+    if (exceptions.ExceptionCount() > 0)
+        return;
+    // Ten that are stored are not in force, but they are the user's.
+    for (const EqualCharacters& pair : storedPairs(m_context.settings))
+        m_pairs->enter(ReturnIteExceptionL(pair, 1, m_context.prompts),
+                       ReturnIteExceptionR(pair, 1, m_context.prompts));
 }
 
 void frmOptions::SetExceptions() {

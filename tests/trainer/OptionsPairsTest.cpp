@@ -207,6 +207,10 @@ TEST(OptionsPairs, NineAreUsedAndTenAreNot) {
     EXPECT_EQ(bench.mapped(u"az"_s), u"az");
     EXPECT_TRUE(bench.section("Exceptions").endsWith(u"Exc_9=iI Exc_10=zZ"_s)) << "in the order of numbers";
     EXPECT_EQ(bench.context.state.Exceptions.ExceptionCount(), 0);
+    bench.open();
+    EXPECT_EQ(bench.shownPairs(), nine.join(u' ') + u" zZ"_s) << "the next OK must not lose them";
+    bench.press("cmdOK");
+    EXPECT_TRUE(bench.section("Exceptions").endsWith(u"Exc_9=iI Exc_10=zZ"_s));
 }
 
 TEST(OptionsPairs, AStoreEditedByHandIsReadAsFarAsItGoes) {
