@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QStringList>
 
 #include <filesystem>
 #include <system_error>
@@ -31,6 +32,29 @@ QString freeNameBeside(const QString& target) {
     }
 }
 
+/// What the engine keeps beside a file while it writes.
+const QStringList& sideFiles() {
+    static const QStringList endings{u"-journal"_s, u"-wal"_s, u"-shm"_s};
+    return endings;
+}
+
+dao::Error cannotWrite(const QString& path) {
+    return {dao::ErrorNumber::CannotOpenFile,
+            u"Cannot write the file '%1'. Permission is missing."_s.arg(path)};
+}
+
+/// What a crash has left beside another file of that name would be taken for a part of this one.
+void removeSideFiles(const QString& path) {
+    for (const QString& ending : sideFiles()) {
+        if (QFileInfo::exists(path + ending) && !QFile::remove(path + ending))
+            throw cannotWrite(path);
+    }
+}
+
+bool isWrittenOut(const QString& path) {
+    return QFileInfo(path + "-journal"_L1).size() == 0 && QFileInfo(path + "-wal"_L1).size() == 0;
+}
+
 } // namespace
 
 UnfinishedFile::UnfinishedFile(const QString& target) : m_target(target), m_path(freeNameBeside(target)) {}
@@ -38,11 +62,17 @@ UnfinishedFile::UnfinishedFile(const QString& target) : m_target(target), m_path
 UnfinishedFile::~UnfinishedFile() {
     if (m_done)
         return;
-    for (const auto& ending : {u""_s, u"-journal"_s, u"-wal"_s, u"-shm"_s})
+    QFile::remove(m_path);
+    for (const QString& ending : sideFiles())
         QFile::remove(m_path + ending);
 }
 
 void UnfinishedFile::takePlace(bool replace) {
+    if (!isWrittenOut(m_path)) // a part of the file would stay behind
+        throw cannotWrite(m_path);
+    if (!replace && QFileInfo::exists(m_target))
+        throw dao::Error(dao::ErrorNumber::DatabaseExists, u"Database '%1' already exists."_s.arg(m_target));
+    removeSideFiles(m_target);
     if (replace) {
         std::error_code error;
         std::filesystem::rename(systemPath(m_path), systemPath(m_target), error);
@@ -54,8 +84,7 @@ void UnfinishedFile::takePlace(bool replace) {
         return;
     if (!replace && QFileInfo::exists(m_target))
         throw dao::Error(dao::ErrorNumber::DatabaseExists, u"Database '%1' already exists."_s.arg(m_target));
-    throw dao::Error(dao::ErrorNumber::CannotOpenFile,
-                     u"Cannot write the file '%1'. Permission is missing."_s.arg(m_target));
+    throw cannotWrite(m_target);
 }
 
 bool isSameFile(const QString& a, const QString& b) {

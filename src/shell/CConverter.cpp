@@ -72,6 +72,15 @@ QString nameByLanguage(const QString& field, const LanguageFields& names) {
     return field;
 }
 
+/// The fields that are never Null in files of our own making: a Null there ends whatever reads it.
+bool isPartOfExpression(const QString& field) {
+    return field.startsWith("Lang1_"_L1) || field.startsWith("Lang2_"_L1);
+}
+bool isPartOfSynonym(const QString& field) {
+    static const std::array<QString, 4> parts{u"Prefix"_s, u"Main"_s, u"Suffix"_s, u"Kommentar"_s};
+    return std::find(parts.begin(), parts.end(), field) != parts.end();
+}
+
 bool found(const dao::Recordset& recordset) {
     return !recordset.EOF_() && !recordset.NoMatch();
 }
@@ -291,8 +300,11 @@ void CConverter::CopyOneScalar(const QString& field, int oldVersion) {
     const QString oldName =
         oldVersion >= FirstVersionWithPlainFieldNames ? field : nameByLanguage(field, old());
     const dao::Value value = old().RecordsetAuswahl.field(oldName);
-    if (value.toText(QString()).isEmpty())
+    if (value.toText(QString()).isEmpty()) {
+        if (isPartOfExpression(field))
+            m_handler.RecordsetAuswahl.setField(field, u""_s);
         return; // the new row holds the default
+    }
     const bool isDate = field == u"Eingabedatum"_s || field == u"Aenderungsdatum"_s;
     m_handler.RecordsetAuswahl.setField(field, isDate ? dao::Value(DateToStored(value.toText())) : value);
 }
@@ -338,9 +350,13 @@ void CConverter::copyTable(const QString& table) {
     dao::TableLoader target(m_handler.Database, table);
     const QStringList fields = target.fieldNames();
     std::vector<dao::Value> row(static_cast<std::size_t>(fields.size()));
+    const bool isSynonym = table == u"Synonyme"_s;
     for (; !source.EOF_(); source.MoveNext()) {
-        std::transform(fields.begin(), fields.end(), row.begin(),
-                       [&source](const QString& field) { return source.field(field); });
+        std::transform(fields.begin(), fields.end(), row.begin(), [&](const QString& field) {
+            const dao::Value value = source.field(field);
+            const bool isPart = isSynonym ? isPartOfSynonym(field) : isPartOfExpression(field);
+            return value.isNull() && isPart ? dao::Value(u""_s) : value;
+        });
         forRow(row.front(), [&] { target.add(row); });
         advanceProgress();
     }
