@@ -246,7 +246,11 @@ void trainerStep(benchmark::State& state) {
 /// From the references of an entry to the form that offers all others.
 void newReference(benchmark::State& state) {
     BenchProgram& program = g_bench->selected();
-    program.application().liste().MSFlexGrid1().setRow(1);
+    lingomat::FlexGrid& list = program.application().liste().MSFlexGrid1();
+    int stored = 1; // new rows have no references
+    while (list.TextMatrix(stored, lingomat::Liste::ColSchluessel) == u"*"_s)
+        ++stored;
+    list.setRow(stored);
     program.answerWith([](QDialog& dialog) {
         if (auto* add = dialog.findChild<QPushButton*>(u"Add"_s))
             add->click();
