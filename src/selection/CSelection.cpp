@@ -87,11 +87,21 @@ int CSelection::PrepareAuswahl(const QString& section, const QString& name) {
     if (known == lessons.end())
         return lowestFreeNumber(keys);
     m_settings.DeleteSetting(AppName(), section, known->first);
-    m_settings.DeleteSetting(AppName(), MakeSubKey(lessonName()));
+    deleteSections(lessonName());
     if (const int number = lessonNumber(known->first))
         return number;
     keys.removeAll(known->first);
     return lowestFreeNumber(keys);
+}
+
+/// A lesson keeps everything further down. What stands right in its section is another one's: the sources of
+/// lesson "a", if this one is called "a\Quelle".
+void CSelection::deleteSections(const QString& name) {
+    const QString section = MakeSubKey(name);
+    const auto others = m_settings.GetAllSettings(AppName(), section);
+    m_settings.DeleteSetting(AppName(), section);
+    for (const auto& [key, value] : others)
+        save(section, key, value);
 }
 
 void CSelection::StoreFromForm2ToRegistry() {
@@ -152,7 +162,7 @@ void CSelection::DeleteRegistryEntry(const QString& name) {
     }
     SettingsStore::Batch batch(m_settings);
     m_settings.DeleteSetting(AppName(), section, known->first);
-    m_settings.DeleteSetting(AppName(), MakeSubKey(name));
+    deleteSections(name);
     batch.commit();
     m_context.values.remove(name, u"Auswahl"_s);
     m_form.cmbName.clearEditText();

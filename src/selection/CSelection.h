@@ -79,6 +79,7 @@ private:
 
     [[nodiscard]] QString read(const QString& section, const QString& key, const QString& missing = {}) const;
     void save(const QString& section, const QString& key, const QString& value);
+    void deleteSections(const QString& name);
 
     FormContext& m_context;
     SettingsStore& m_settings;

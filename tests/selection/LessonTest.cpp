@@ -72,6 +72,18 @@ TEST_F(Lessons, DeletingAsksAndLeavesTheFiltersAlone) {
     EXPECT_EQ(storedKeys(u"\\One\\lang1"_s), QStringList());
 }
 
+TEST_F(Lessons, OneThatIsCalledLikeAListOfAnotherLeavesThatList) {
+    save(u"a"_s);
+    put(u"\\a\\Quelle"_s, u"I0"_s, u"book"_s);
+    save(u"a\\Quelle"_s);
+    save(u"a\\Quelle"_s);
+    EXPECT_EQ(stored(u"\\a\\Quelle"_s, u"I0"_s), u"book"_s);
+    bench.context.prompts.expectYesNo(ExpectedText::anything(), true);
+    bench.click("cmdLoeschen");
+    EXPECT_EQ(stored(u"\\a\\Quelle"_s, u"I0"_s), u"book"_s);
+    EXPECT_EQ(storedKeys(u"\\a\\Quelle\\lang1"_s), QStringList());
+}
+
 TEST_F(GermanLessons, Questions) {
     type(u"Eins"_s);
     bench.context.prompts.expectYesNo(
