@@ -7,6 +7,7 @@
 #include "Globals.h"
 
 #include <QAction>
+#include <QFile>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -54,6 +55,11 @@ protected:
         press("Command3");
         grid().setTextMatrix(grid().Row(), Liste::ColHaupt1, u"neu"_s);
         ASSERT_EQ(list().pendingChanges(), 3);
+    }
+    /// Each step of the save of changeEverything() that wants to write.
+    void expectRefusals() {
+        for (int step = 0; step < 8; ++step)
+            program.prompts.expectErrorContaining(u"Cannot update. The database is read-only."_s);
     }
     void expectAllPending() {
         EXPECT_EQ(list().AnzahlGeloescht, 1);
@@ -209,6 +215,26 @@ TEST_P(PendingChanges, FirstRowOfAnEmptyDatabaseMakesTheSelectionValid) {
     press("Command4");
     EXPECT_FALSE(program.app().state().SelectionValid);
     EXPECT_EQ(list().pendingChanges(), 0);
+}
+
+TEST_P(PendingChanges, ASaveIntoAFileThatIsGoneIsTold) {
+    changeEverything();
+    ASSERT_TRUE(QFile::rename(file, file + u".away"_s));
+    expectRefusals();
+    press("Command2");
+    EXPECT_FALSE(QFile::exists(file)) << "nothing is put in its place";
+    EXPECT_EQ(grid().TextMatrix(1, Liste::ColHaupt1), u"Hof"_s) << "what was typed stays on the screen";
+}
+
+TEST_P(PendingChanges, ASaveIntoAFileThatWasReplacedIsToldAndLeavesTheOther) {
+    changeEverything();
+    ASSERT_TRUE(QFile::rename(file, file + u".away"_s));
+    writeDatabase(file, {.entries = {{u"anders"_s, u"other"_s, {}, {}, {}}}});
+    const QByteArray other = readFile(file);
+    expectRefusals();
+    press("Command2");
+    EXPECT_EQ(readFile(file), other);
+    EXPECT_EQ(grid().TextMatrix(1, Liste::ColHaupt1), u"Hof"_s);
 }
 
 } // namespace
