@@ -32,7 +32,7 @@ public:
     /// Writes the row with that key and stamps it. Its key; 0 after a failure.
     qint16 UpdateOneRow(qint16 id);
     /// Adds up to `count` of the rows that read "*", from the last one up, and gives each its key. `added` is
-    /// told before each how many there were so far. A failure ends it; rows after it keep their "*".
+    /// told before each how many there were so far. A row that fails keeps its "*", and the next is tried.
     void AddNewRows(int count, const std::function<void(int)>& added);
 
     /// Copies the current row into the record of RecordsetVokabular in work, and writes its attributes.

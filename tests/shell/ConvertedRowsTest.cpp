@@ -229,14 +229,24 @@ TEST_F(Converted, OldFileIsListedWholeWithoutAWord) {
 }
 
 TEST_F(Converted, WhatACrashHasLeftBesideTheTargetIsNoPartOfIt) {
-    for (const char* ending : {"-wal", "-journal"})
-        writeFile(prompts.newFile + QString::fromLatin1(ending), "left by a crash");
+    const QString log = prompts.newFile + u"-wal"_s;
+    writeDatabase(prompts.newFile, {.entries = {{u"left"_s, u"behind"_s, {}, {}, {}}}});
+    QByteArray left;
+    {
+        dao::Database database = dao::DBEngine::OpenDatabase(prompts.newFile);
+        const dao::WriteBurst burst(database);
+        dao::Recordset rows = database.OpenRecordset(u"SELECT * FROM Vokabular"_s);
+        rows.Edit();
+        rows.setField(u"Lang1_Main"_s, u"never folded in"_s);
+        rows.Update();
+        left = readFile(log);
+    }
+    ASSERT_FALSE(left.isEmpty());
+    ASSERT_TRUE(QFile::remove(prompts.newFile));
+    writeFile(log, left);
     convertOld({.rows = {{{u"Lang1_Main"_s, u"a"_s}}}});
     EXPECT_TRUE(isOpen());
     EXPECT_EQ(column(u"Lang1_Main"_s), QStringList{u"a"_s});
-    program.end();
-    for (const char* ending : {"-wal", "-journal"})
-        EXPECT_FALSE(QFile::exists(prompts.newFile + QString::fromLatin1(ending))) << ending;
 }
 
 TEST_F(Converted, OnlyTheFieldsOfTheFormatAreCopied) {
